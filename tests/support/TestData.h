@@ -1,0 +1,38 @@
+#pragma once
+// The folder of real camera files and its expected.json.
+//
+// The conformance tests run only when the folder is there (CI has it). When it
+// is missing they are skipped with a message that says so, never passed
+// silently. LUMIDATE_TESTDATA in the environment overrides the built-in path.
+
+#include <filesystem>
+#include <optional>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+namespace lumtest {
+
+// The folder, or nullopt when it (or its expected.json) is absent.
+std::optional<std::filesystem::path> realDataDir();
+
+// expected.json parsed; an empty object when the folder is absent.
+const nlohmann::json& expectedJson();
+
+// The file's record from expected.json ("files" -> name).
+const nlohmann::json& expectedFor(const std::string& fileName);
+
+// Names of every file listed in expected.json, sorted.
+std::vector<std::string> realFileNames();
+
+// Reads a whole file into memory (for tests only).
+std::vector<std::uint8_t> readFile(const std::filesystem::path& path);
+
+}  // namespace lumtest
+
+// Skips the current test when the real files are absent, saying why.
+#define LUMTEST_REQUIRE_REAL_DATA()                                                          \
+  do {                                                                                       \
+    if (!::lumtest::realDataDir())                                                           \
+      GTEST_SKIP() << "real camera files not found (set LUMIDATE_TESTDATA); conformance test skipped"; \
+  } while (0)
