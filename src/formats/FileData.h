@@ -1,0 +1,72 @@
+#pragma once
+// The bytes of one opened photo file: a read-only memory mapping held for
+// as long as anyone keeps the object, or (after a save) an owned copy.
+//
+// The mapping is shared and immutable: several readers (the scan, the
+// thumbnail job, the save's copy) may hold it at once from any thread.
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/ByteView.h"
+
+namespace lum {
+
+// Size and modification time of a file, used to tell whether the file on disk
+// is still the one that was opened.
+struct FileStamp {
+  std::uint64_t size = 0;
+  std::int64_t mtimeSeconds = 0;
+  std::int64_t mtimeNanoseconds = 0;
+
+  friend bool operator==(const FileStamp&, const FileStamp&) = default;
+
+  // The file's current stamp, or nullopt when it cannot be read.
+  static std::optional<FileStamp> of(const std::filesystem::path& path);
+};
+
+// Why a read failed, in the three parts the console line reports.
+struct ReadFailure {
+  std::string reason;
+  std::string description;
+  std::string recoverySuggestion;
+};
+
+class FileData {
+ public:
+  // Maps the whole file read-only. An empty file gives an object with no
+  // bytes and no failure; a file that cannot be opened or mapped gives
+  // nullptr and fills *failure when given.
+  static std::shared_ptr<const FileData> mapFile(const std::filesystem::path& path, ReadFailure* failure = nullptr);
+
+  // Holds a copy of bytes already in memory (the bytes written by a save).
+  static std::shared_ptr<const FileData> fromBytes(std::vector<std::uint8_t> bytes);
+
+  ~FileData();
+  FileData(const FileData&) = delete;
+  FileData& operator=(const FileData&) = delete;
+
+  orb::ByteView bytes() const { return {data_, size_}; }
+  std::uint64_t size() const { return size_; }
+  bool empty() const { return size_ == 0; }
+
+  // Size and modification time of the file when it was mapped (the mapped
+  // object's own stat, so it describes exactly these bytes); nullopt for
+  // bytes that did not come from a file.
+  const std::optional<FileStamp>& stampAsOpened() const { return stamp_; }
+
+ private:
+  FileData() = default;
+
+  const std::uint8_t* data_ = nullptr;
+  std::size_t size_ = 0;
+  void* mapping_ = nullptr;  // non-null when data_ is an mmap of size_ bytes
+  std::vector<std::uint8_t> owned_;
+  std::optional<FileStamp> stamp_;
+};
+
+}  // namespace lum

@@ -1,0 +1,179 @@
+#pragma once
+// One opened photo file (JPEG with Exif, or TIFF): its bytes, where its TIFF
+// header lies, the parsed TIFF structure, and its dates as they stood when it
+// was opened.
+//
+// A file is accepted by content, never by name: "II"/"MM" at offset 0 is a
+// TIFF, FF D8 a JPEG, and the decoder must accept the image's header. A JPEG
+// without Exif opens too; it simply has no TIFF structure and no dates.
+//
+// The bytes are a read-only memory mapping held for the object's life. Every
+// read of the marker walk and of the JFIF fields is bounded by the file size;
+// a cut or malformed file is taken as having nothing there, never read past.
+
+#include <atomic>
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "core/ByteView.h"
+#include "core/LumError.h"
+#include "formats/FileData.h"
+#include "tools/Bitmap.h"
+
+class OrbTiff;
+
+// A byte range in the file: location of a segment's marker and its length
+// (length field + 2, so the range covers marker, length and body).
+struct LumRange {
+  std::uint64_t location = 0;
+  std::uint64_t length = 0;
+  friend bool operator==(const LumRange&, const LumRange&) = default;
+};
+
+// The three dates the program edits.
+enum class LumDateField { DateTimeOriginal, DateTimeDigitized, DateTime };
+
+// What holds an image file (a document); it knows the file's path, the image
+// file itself keeps none.
+class LumImageFileOwner {
+ public:
+  virtual ~LumImageFileOwner() = default;
+  virtual std::optional<std::filesystem::path> fileURL() const = 0;
+};
+
+class LumImageFile {
+ public:
+  // JFIF fields in the order they were set: "JFIF Version", "Density Unit",
+  // "X Density", "Y Density", "Thumbnail Width", "Thumbnail Height".
+  using JFIFDictionary = std::vector<std::pair<std::string, std::string>>;
+  // Set to true to cancel the pending background job of this file.
+  using CancelFlag = std::shared_ptr<std::atomic<bool>>;
+
+  static constexpr std::uint32_t kEditFlag = 1u << 0;
+  static constexpr double kThumbnailBox = 150.0;
+
+  // Opens the file. Answers nullptr on failure with *error (when given) in
+  // "LumErrorDomain": -2 for an empty or unreadable file (the read failure is
+  // logged to stderr as "LumImageFile - NSData error ..."), -1 for a file
+  // that is neither JPEG nor TIFF or that the decoder refuses.
+  static std::unique_ptr<LumImageFile> imageFileWithURL(const std::filesystem::path& url, LumError* error);
+
+  LumImageFile();
+  ~LumImageFile();
+  LumImageFile(const LumImageFile&) = delete;
+  LumImageFile& operator=(const LumImageFile&) = delete;
+
+  // Classifies the bytes, walks the JPEG markers, checks that the image
+  // decodes, and builds the TIFF structure. False with *error (-1) when the
+  // bytes are not an accepted image.
+  bool searchImageDataAndMakeExifObject(orb::ByteView data, LumError* error);
+
+  // The JPEG marker walk from *location (2, right after SOI). True when the
+  // first APP1 is Exif; *location then stands on its TIFF header, which is
+  // also stored in tiffHeaderLocation().
+  bool pSearchJPEG(orb::ByteView bytes, std::uint64_t* location, std::uint64_t fileSize);
+
+  // Reads the APP0 whose length field is at *location; fills JFIFSegmentRange
+  // and, for a "JFIF" APP0, the JFIF dictionary. Leaves *location where the
+  // walk reads its next marker.
+  void pSearchJFIF(orb::ByteView bytes, std::uint64_t* location, std::uint64_t fileSize);
+
+  // Keeps the bytes and derives the six original strings from the current
+  // TIFF structure.
+  void setImageData(std::shared_ptr<const lum::FileData> data);
+  const std::shared_ptr<const lum::FileData>& imageData() const { return imageData_; }
+
+  // Size and modification time of the file as it was opened.
+  std::optional<lum::FileStamp> stampAsOpened() const;
+
+  std::uint64_t tiffHeaderLocation() const { return tiffHeaderLocation_; }
+  void setTiffHeaderLocation(std::uint64_t location) { tiffHeaderLocation_ = location; }
+
+  const std::optional<LumRange>& JFIFSegmentRange() const { return jfifSegmentRange_; }
+  const std::optional<LumRange>& exifSegmentRange() const { return exifSegmentRange_; }
+
+  const std::optional<JFIFDictionary>& JFIF() const { return jfif_; }
+  std::vector<std::string> JFIFKeys() const;
+  // The value of one JFIF key, nullopt when absent.
+  std::optional<std::string> JFIFValue(std::string_view key) const;
+
+  const std::shared_ptr<OrbTiff>& tiff() const { return tiff_; }
+  void setTiff(std::shared_ptr<OrbTiff> tiff) { tiff_ = std::move(tiff); }
+
+  // Absolute file offset of a date entry's value (value offset + the TIFF
+  // structure's header location): where a new date is written. Nullopt when
+  // the structure holds no such entry or its value is not out of line.
+  std::optional<std::uint64_t> dateValueOffset(LumDateField field) const;
+
+  // The original strings as they stood at opening (dates: first 19
+  // characters, kept only when valid; sub-seconds: as stored).
+  const std::optional<std::string>& originalDateTimeOriginalString() const { return dateTimeOriginal_; }
+  const std::optional<std::string>& originalDateTimeDigitizedString() const { return dateTimeDigitized_; }
+  const std::optional<std::string>& originalDateTimeString() const { return dateTime_; }
+  const std::optional<std::string>& originalSubSecDateTimeOriginalString() const { return subSecOriginal_; }
+  const std::optional<std::string>& originalSubSecDateTimeDigitizedString() const { return subSecDigitized_; }
+  const std::optional<std::string>& originalSubSecDateTimeString() const { return subSec_; }
+  void setOriginalDateTimeOriginalString(std::optional<std::string> s) { dateTimeOriginal_ = std::move(s); }
+  void setOriginalDateTimeDigitizedString(std::optional<std::string> s) { dateTimeDigitized_ = std::move(s); }
+  void setOriginalDateTimeString(std::optional<std::string> s) { dateTime_ = std::move(s); }
+  void setOriginalSubSecDateTimeOriginalString(std::optional<std::string> s) { subSecOriginal_ = std::move(s); }
+  void setOriginalSubSecDateTimeDigitizedString(std::optional<std::string> s) { subSecDigitized_ = std::move(s); }
+  void setOriginalSubSecDateTimeString(std::optional<std::string> s) { subSec_ = std::move(s); }
+  // The original string of one date field.
+  const std::optional<std::string>& originalString(LumDateField field) const;
+
+  // True when none of the three dates was kept.
+  bool noDateTimes() const;
+
+  bool isEdit() const { return (flags_ & kEditFlag) != 0; }
+  void setEdit(bool edit) { flags_ = edit ? (flags_ | kEditFlag) : (flags_ & ~kEditFlag); }
+
+  LumImageFileOwner* ownerDocument() const { return owner_; }
+  void setOwnerDocument(LumImageFileOwner* owner) { owner_ = owner; }
+  // The owner document's path; the image file keeps none of its own.
+  std::optional<std::filesystem::path> fileURL() const;
+
+  // Whatever the key, a caller asking for a value by key receives the whole
+  // image file and picks what it shows.
+  const LumImageFile* valueForKey(std::string_view) const { return this; }
+
+  // The list thumbnail; may be read and set from any thread.
+  std::shared_ptr<const lum::Bitmap> thumbnail() const;
+  void setThumbnail(std::shared_ptr<const lum::Bitmap> thumbnail);
+  // Makes the thumbnail (fitting 150 x 150, never enlarged) when there is
+  // none and the file has an owner with a path; the placeholder when the
+  // image cannot be decoded.
+  void makeThumbnail();
+  // The placeholder shown when no thumbnail can be made.
+  static std::shared_ptr<const lum::Bitmap> errorImage();
+
+  CancelFlag operation() const;
+  void setOperation(CancelFlag operation);
+
+ private:
+  std::shared_ptr<const lum::FileData> imageData_;
+  std::optional<LumRange> jfifSegmentRange_;
+  std::optional<LumRange> exifSegmentRange_;
+  std::uint64_t tiffHeaderLocation_ = 0;
+  std::optional<JFIFDictionary> jfif_;
+  std::shared_ptr<OrbTiff> tiff_;
+  std::optional<std::string> dateTimeOriginal_;
+  std::optional<std::string> dateTimeDigitized_;
+  std::optional<std::string> dateTime_;
+  std::optional<std::string> subSecOriginal_;
+  std::optional<std::string> subSecDigitized_;
+  std::optional<std::string> subSec_;
+  LumImageFileOwner* owner_ = nullptr;
+  std::uint32_t flags_ = 0;
+
+  mutable std::mutex jobMutex_;  // guards thumbnail_ and operation_
+  std::shared_ptr<const lum::Bitmap> thumbnail_;
+  CancelFlag operation_;
+};
