@@ -1,0 +1,35 @@
+#pragma once
+// Where each changed date text goes in a file, as byte patches of 19 bytes.
+//
+// A date is written at its entry's value offset plus the TIFF header's
+// position in the file; only the 19 characters "yyyy:MM:dd HH:mm:ss" are
+// written, never the terminating NUL or any other byte.
+
+#include <cstdint>
+#include <vector>
+
+#include "core/ByteView.h"
+#include "documents/DateTargets.h"
+#include "documents/InPlaceWriter.h"
+
+namespace DateRewrite {
+
+inline constexpr std::size_t kDateLength = 19;
+
+// The value offsets (the entries' data words) of the three dates, nullopt
+// where the file has no such entry, and the TIFF header's file position.
+struct DateLocations {
+  std::uint64_t tiffHeaderLocation = 0;
+  std::array<std::optional<std::uint32_t>, DateTargets::kCount> valueOffsets{};
+};
+
+// The patches for the item texts: a text that is absent, shorter than 19
+// characters or not ASCII is skipped; a longer text gives its first 19.
+// Nothing at all when the file has none of the three entries.
+std::vector<InPlaceWriter::BytePatch> patchesForTexts(const DateLocations& where, const DateTargets::Texts& texts);
+
+// A copy of data with the patches applied; patches outside data are left out
+// (the writer refuses them; this copy serves comparisons and previews).
+std::vector<std::uint8_t> applied(orb::ByteView data, const std::vector<InPlaceWriter::BytePatch>& patches);
+
+}  // namespace DateRewrite

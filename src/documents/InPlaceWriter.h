@@ -1,0 +1,62 @@
+#pragma once
+// Writes changed date texts straight into an existing photo file.
+//
+// A photo is irreplaceable, so the writer is deliberately narrow: it checks
+// that the file on disk is still the one that was opened (same size, same
+// modification time), refuses any position outside the file, writes one
+// contiguous run of bytes covering every change (the unchanged bytes between
+// two changes are read from the file and written back as they were), and
+// flushes the file to disk. It never truncates, never creates and never
+// replaces the file, so an interrupted save cannot leave a shortened photo.
+
+#include <sys/types.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <span>
+#include <string>
+
+namespace InPlaceWriter {
+
+// What identifies a file as the one that was opened.
+struct FileIdentity {
+  std::uint64_t size = 0;
+  std::int64_t modifiedSeconds = 0;
+  std::int64_t modifiedNanoseconds = 0;
+
+  friend bool operator==(const FileIdentity&, const FileIdentity&) = default;
+};
+
+// The identity of the file at path now, or nullopt when it cannot be read
+// (missing, not a regular file).
+std::optional<FileIdentity> identityOfFile(const std::filesystem::path& path);
+
+// Bytes to put at an absolute position of the file.
+struct BytePatch {
+  std::uint64_t position = 0;
+  std::string bytes;
+};
+
+// The system call that writes; tests replace it to make a write fail part way.
+// Same contract as pwrite(2): bytes written, or -1 with errno set.
+using WriteFunction = std::function<ssize_t(int fd, const void* buffer, std::size_t count, off_t offset)>;
+
+struct WriteResult {
+  bool ok = false;
+  std::string reason;  // empty on success
+};
+
+// Reasons given to the user.
+inline constexpr const char* kChangedOnDiskReason = "The file was changed by another program since it was opened.";
+inline constexpr const char* kMissingReason = "The file no longer exists.";
+inline constexpr const char* kReadOnlyReason = "The file is read-only.";
+inline constexpr const char* kBeyondEndReason = "A date lies beyond the end of the file; the file was not changed.";
+
+// Writes the patches into the file at path, provided it still has the
+// identity `opened`. With no patches nothing is written and the answer is ok.
+WriteResult writePatches(const std::filesystem::path& path, const FileIdentity& opened,
+                         std::span<const BytePatch> patches, const WriteFunction& write = {});
+
+}  // namespace InPlaceWriter

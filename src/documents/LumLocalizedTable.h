@@ -1,0 +1,24 @@
+#pragma once
+// English formats of the keys that take arguments. A key not listed here is
+// shown as it is.
+
+#include <array>
+#include <string_view>
+
+namespace LumLocalized {
+
+struct EnglishFormat {
+  std::string_view key;
+  std::string_view english;
+};
+
+inline constexpr std::array<EnglishFormat, 5> kEnglishFormats{{
+    {"Save Completed:", "Save Completed: %1"},
+    {"Save a file Failed.", "Save a file Failed. (%1)"},
+    {"Save files Failed.", "Save files Failed. (%1 files)"},
+    {"LocalST_ImagesWindowTitle", "%1 (%2 images)"},
+    {"The document has unsaved changes. Do you want to save the changes before closing?",
+     "The document \"%1\" has unsaved changes. Do you want to save the changes before closing?"},
+}};
+
+}  // namespace LumLocalized
