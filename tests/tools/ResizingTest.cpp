@@ -1,0 +1,157 @@
+#include "tools/Resizing.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+namespace {
+
+using lum::AlphaInfo;
+using lum::Bitmap;
+using lum::ColorSpace;
+
+std::shared_ptr<Bitmap> solid(int w, int h, int comps, AlphaInfo info, std::vector<std::uint8_t> pixel,
+                              ColorSpace space = ColorSpace::RGB, int bpc = 8) {
+  auto b = std::make_shared<Bitmap>();
+  b->width = w;
+  b->height = h;
+  b->bitsPerComponent = bpc;
+  b->bytesPerRow = w * comps * (bpc / 8);
+  b->bitmapInfo = static_cast<std::uint32_t>(info);
+  b->colorSpace = space;
+  b->pixels.resize(static_cast<std::size_t>(b->bytesPerRow) * h);
+  for (std::size_t i = 0; i < b->pixels.size(); i += pixel.size()) std::memcpy(&b->pixels[i], pixel.data(), pixel.size());
+  return b;
+}
+
+struct SizeCase {
+  int w, h;
+  bool up;
+  std::optional<Resizing::PixelSize> expected;
+};
+
+TEST(ResizingSize, FitsTheBoxKeepingAspect) {
+  const SizeCase cases[] = {
+      {4000, 3000, false, Resizing::PixelSize{150, 113}},  // 112.5 rounds up
+      {3000, 4000, false, Resizing::PixelSize{113, 150}},
+      {100, 80, false, std::nullopt},                      // already fits
+      {100, 80, true, Resizing::PixelSize{150, 120}},
+      {200, 100, false, Resizing::PixelSize{150, 75}},
+      {300, 300, false, Resizing::PixelSize{150, 150}},    // equal factors
+      {150, 150, true, std::nullopt},                      // box not larger in both directions
+      {150, 100, true, std::nullopt},
+      {151, 10, false, Resizing::PixelSize{150, 10}},      // 9.93 rounds to 10
+  };
+  for (const auto& c : cases)
+    EXPECT_EQ(Resizing::newSize(c.w, c.h, 150, 150, c.up), c.expected) << c.w << "x" << c.h << " up=" << c.up;
+}
+
+TEST(ResizingFormat, ComponentCountAndAlphaAreNormalised) {
+  struct Case {
+    int comps;
+    AlphaInfo info;
+    int components;
+    std::uint32_t bitmapInfo;
+  };
+  const Case cases[] = {
+      {1, AlphaInfo::None, 2, 1},             // grey gains a padding alpha, premultiplied last
+      {3, AlphaInfo::None, 4, 1},             // RGB likewise
+      {4, AlphaInfo::Last, 4, 1},
+      {4, AlphaInfo::PremultipliedLast, 4, 1},
+      {4, AlphaInfo::NoneSkipLast, 4, 1},
+      {4, AlphaInfo::NoneSkipFirst, 4, 1},    // bit 2 of 6 is set, so "last" wins
+      {4, AlphaInfo::First, 4, 2},
+      {4, AlphaInfo::PremultipliedFirst, 4, 1},  // value 2 has a low bit set: last
+      {4, AlphaInfo::None, 4, 0},             // CMYK stays without alpha
+  };
+  for (const auto& c : cases) {
+    auto b = solid(10, 2, c.comps, c.info, std::vector<std::uint8_t>(static_cast<std::size_t>(c.comps), 0));
+    const auto f = Resizing::pixelFormat(*b, 7);
+    ASSERT_TRUE(f);
+    EXPECT_EQ(f->components, c.components) << c.comps << "/" << static_cast<int>(c.info);
+    EXPECT_EQ(f->bitmapInfo, c.bitmapInfo) << c.comps << "/" << static_cast<int>(c.info);
+    EXPECT_EQ(f->bytesPerRow, c.components * 7);
+  }
+}
+
+TEST(ResizingFormat, ComponentsComeFromRowLengthTruncated) {
+  auto b = solid(10, 1, 3, AlphaInfo::None, {0, 0, 0}, ColorSpace::RGB, 16);
+  b->bytesPerRow = 64;  // padded rows: 64 / 2 / 10 = 3 components
+  const auto f = Resizing::pixelFormat(*b, 5);
+  ASSERT_TRUE(f);
+  EXPECT_EQ(f->components, 4);
+  EXPECT_EQ(f->bytesPerRow, 4 * 2 * 5);
+}
+
+TEST(ResizingPixels, SameBitmapWhenItFits) {
+  const std::shared_ptr<const Bitmap> b = solid(100, 80, 3, AlphaInfo::None, {1, 2, 3});
+  EXPECT_EQ(Resizing::resizedBitmap(b, 150, 150, false), b);
+  EXPECT_EQ(Resizing::resizedBitmapFromBitmap(nullptr, false, 150, 150), nullptr);
+}
+
+TEST(ResizingPixels, RgbBecomesOpaqueRgba) {
+  const auto out = Resizing::resizedBitmap(solid(40, 20, 3, AlphaInfo::None, {10, 200, 30}), 10, 10, false);
+  ASSERT_TRUE(out);
+  EXPECT_EQ(out->width, 10);
+  EXPECT_EQ(out->height, 5);
+  EXPECT_EQ(out->bytesPerRow, 40);
+  ASSERT_EQ(out->pixels.size(), 200u);
+  for (std::size_t i = 0; i < out->pixels.size(); i += 4)
+    ASSERT_EQ(std::vector<std::uint8_t>(out->pixels.begin() + i, out->pixels.begin() + i + 4),
+              (std::vector<std::uint8_t>{10, 200, 30, 255}));
+}
+
+TEST(ResizingPixels, StraightAlphaFirstIsPremultipliedAndStaysFirst) {
+  const auto out = Resizing::resizedBitmap(solid(4, 4, 4, AlphaInfo::First, {128, 255, 0, 100}), 2, 2, false);
+  ASSERT_TRUE(out);
+  EXPECT_EQ(out->bitmapInfo, 2u);
+  EXPECT_EQ(std::vector<std::uint8_t>(out->pixels.begin(), out->pixels.begin() + 4),
+            (std::vector<std::uint8_t>{128, 128, 0, 50}));
+}
+
+TEST(ResizingPixels, SkipFirstMovesPaddingToAnOpaqueLastAlpha) {
+  const auto out = Resizing::resizedBitmap(solid(4, 2, 4, AlphaInfo::NoneSkipFirst, {7, 1, 2, 3}), 2, 2, false);
+  ASSERT_TRUE(out);
+  EXPECT_EQ(std::vector<std::uint8_t>(out->pixels.begin(), out->pixels.begin() + 4),
+            (std::vector<std::uint8_t>{1, 2, 3, 255}));
+}
+
+TEST(ResizingPixels, AveragesTheCoveredArea) {
+  // Two columns, black and white, shrunk to one pixel: mid grey.
+  auto b = solid(2, 1, 1, AlphaInfo::None, {0}, ColorSpace::Gray);
+  b->pixels[1] = 255;
+  const auto out = Resizing::resizedBitmap(b, 1, 1, false);
+  ASSERT_TRUE(out);
+  ASSERT_EQ(out->pixels.size(), 2u);
+  EXPECT_EQ(out->pixels[0], 128);
+  EXPECT_EQ(out->pixels[1], 255);
+}
+
+TEST(ResizingPixels, SixteenBitComponentsKeepTheirDepth) {
+  const std::uint16_t v = 40000;
+  std::vector<std::uint8_t> px(2);
+  std::memcpy(px.data(), &v, 2);
+  const auto out = Resizing::resizedBitmap(solid(8, 8, 1, AlphaInfo::None, px, ColorSpace::Gray, 16), 4, 4, false);
+  ASSERT_TRUE(out);
+  EXPECT_EQ(out->bitsPerComponent, 16);
+  std::uint16_t got = 0;
+  std::memcpy(&got, out->pixels.data(), 2);
+  EXPECT_EQ(got, 40000);
+}
+
+TEST(ResizingPixels, UnsupportedFormatsGiveNone) {
+  // A colour space that disagrees with the component count.
+  EXPECT_EQ(Resizing::resizedBitmap(solid(8, 8, 3, AlphaInfo::None, {0, 0, 0}, ColorSpace::Gray), 4, 4, false), nullptr);
+  // Fewer than 8 bits per component.
+  auto packed = solid(8, 8, 1, AlphaInfo::None, {0}, ColorSpace::Gray);
+  packed->bitsPerComponent = 1;
+  EXPECT_EQ(Resizing::resizedBitmap(packed, 4, 4, false), nullptr);
+  // Pixels shorter than the header claims.
+  auto cut = solid(8, 8, 3, AlphaInfo::None, {0, 0, 0});
+  cut->pixels.resize(10);
+  EXPECT_EQ(Resizing::resizedBitmap(cut, 4, 4, false), nullptr);
+  // A side that rounds to nothing.
+  EXPECT_EQ(Resizing::resizedBitmap(solid(1000, 1, 3, AlphaInfo::None, {0, 0, 0}), 150, 150, false), nullptr);
+}
+
+}  // namespace
