@@ -6,7 +6,12 @@ function(lumidate_warnings target)
   target_compile_options(${target} PRIVATE -Wall -Wextra -Werror)
 endfunction()
 
-if(LUMIDATE_SANITIZE)
+if(LUMIDATE_FUZZ)
+  # Coverage instrumentation for the libraries; each fuzz target adds the
+  # libFuzzer main itself.
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+elseif(LUMIDATE_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()
