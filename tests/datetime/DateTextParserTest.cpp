@@ -1,0 +1,206 @@
+#include <gtest/gtest.h>
+
+#include "datetime/DateAdditions.h"
+#include "datetime/ZoneGuard.h"
+
+namespace {
+
+struct ParseCase {
+  const char* text;
+  bool withColon;
+  bool allowedYMDH;
+  bool accepted;
+  const char* ymd;
+  const char* hms;
+  const char* subsec;
+  const char* zone;
+};
+
+// The local zone only matters for normalisation; UTC makes these stable.
+class DateTextParser : public ::testing::TestWithParam<ParseCase> {
+ protected:
+  lumtest::ZoneGuard zone_{"UTC"};
+};
+
+TEST_P(DateTextParser, SplitsAndNormalises) {
+  const ParseCase& c = GetParam();
+  std::string ymd = "untouched", hms = "untouched", subsec = "untouched", zone = "untouched";
+  const bool accepted =
+      DateAdditions::getDateTimeStrings(c.text, &ymd, &hms, &subsec, &zone, c.withColon, c.allowedYMDH);
+  ASSERT_EQ(accepted, c.accepted) << c.text;
+  if (!c.accepted) {
+    EXPECT_EQ(ymd, "untouched") << "outputs are written only on success";
+    return;
+  }
+  EXPECT_EQ(ymd, c.ymd) << c.text;
+  EXPECT_EQ(hms, c.hms) << c.text;
+  EXPECT_EQ(subsec, c.subsec) << c.text;
+  EXPECT_EQ(zone, c.zone) << c.text;
+}
+
+constexpr bool kColon = true, kNoColon = false, kHourOnly = true, kFull = false;
+
+INSTANTIATE_TEST_SUITE_P(
+    Accepted, DateTextParser,
+    ::testing::Values(
+        ParseCase{"2019:03:07 09:05:30", kColon, kFull, true, "2019-03-07", "09:05:30", "", ""},
+        ParseCase{"2019-03-07T09:05:30.5+09:00", kColon, kFull, true, "2019-03-07", "09:05:30", "5", "+09:00"},
+        ParseCase{"2019:03:07 09:05:30Z", kColon, kFull, true, "2019-03-07", "09:05:30", "", "Z"},
+        ParseCase{"2019:03:07 09:05:30 z", kColon, kFull, true, "2019-03-07", "09:05:30", "", "Z"},
+        ParseCase{"2019:03:07 09:05:30+Z", kColon, kFull, true, "2019-03-07", "09:05:30", "", "Z"},
+        ParseCase{"0000:01:01 00:00:00", kColon, kFull, true, "-0001-01-01", "00:00:00", "", ""},
+        ParseCase{"-0044:03:15 12:00:00", kColon, kFull, true, "-0044-03-15", "12:00:00", "", ""},
+        ParseCase{"+2019:03:07 09:05:30", kColon, kFull, true, "2019-03-07", "09:05:30", "", ""},
+        ParseCase{"2019:02:29 10:00:00", kColon, kFull, true, "2019-03-01", "10:00:00", "", ""},
+        ParseCase{"2019:02:30", kColon, kFull, true, "2019-03-02", "", "", ""},
+        ParseCase{"2019:12:31 23:59:60", kColon, kFull, true, "2020-01-01", "00:00:00", "", ""},
+        ParseCase{"2019:03:07 24:00:00", kColon, kFull, true, "2019-03-08", "00:00:00", "", ""},
+        ParseCase{"2019:13:01", kColon, kFull, true, "2020-01-01", "", "", ""},
+        ParseCase{"2019:03:00", kColon, kFull, true, "2019-02-28", "", "", ""},
+        ParseCase{"2019:13", kColon, kFull, true, "2020-01", "", "", ""},
+        ParseCase{"2019", kColon, kFull, true, "2019", "", "", ""},
+        ParseCase{"19:3:7 9:5:3", kColon, kFull, true, "0019-03-07", "09:05:03", "", ""},
+        ParseCase{"2019/03/07 09;05;30", kColon, kFull, true, "2019-03-07", "09:05:30", "", ""},
+        ParseCase{"2019:03:07 09", kColon, kHourOnly, true, "2019-03-07", "09", "", ""},
+        ParseCase{"2019:03:07 09.5", kColon, kHourOnly, true, "2019-03-07", "09:30", "", ""},
+        ParseCase{"2019:03:07 10.7", kColon, kHourOnly, true, "2019-03-07", "10:42", "", ""},
+        ParseCase{"2019:03:07 10,33", kColon, kHourOnly, true, "2019-03-07", "10:19", "", ""},
+        ParseCase{"2019:03:07 09:05", kColon, kFull, true, "2019-03-07", "09:05", "", ""},
+        ParseCase{"2019:03:07 09:05.5", kColon, kFull, true, "2019-03-07", "09:05:30", "", ""},
+        ParseCase{"2019:03:07 09:05:30.050", kColon, kFull, true, "2019-03-07", "09:05:30", "050", ""},
+        ParseCase{"2019:03:07 09:05:30 +0930", kColon, kFull, true, "2019-03-07", "09:05:30", "", "+09:30"},
+        ParseCase{"2019:03:07 09:05:30 +0930", kNoColon, kFull, true, "2019-03-07", "09:05:30", "", "+0930"},
+        ParseCase{"2019:03:07 09:05:30+9", kColon, kFull, true, "2019-03-07", "09:05:30", "", "+09:00"},
+        ParseCase{"2019:03:07 09:05:30-05:00", kColon, kFull, true, "2019-03-07", "09:05:30", "", "-05:00"},
+        ParseCase{"2019:03:07 09:05:30+05:45:30", kColon, kFull, true, "2019-03-07", "09:05:30", "", "+05:45:30"},
+        ParseCase{"2019:03:07 09:05:30+05:45:30", kNoColon, kFull, true, "2019-03-07", "09:05:30", "", "+054530"},
+        ParseCase{"2019:03:07 09:05:30+05:45:00", kColon, kFull, true, "2019-03-07", "09:05:30", "", "+05:45"},
+        // An offset shifts nothing: the fields stay as written in that zone.
+        ParseCase{"2019:03:07 23:30:00-12:00", kColon, kFull, true, "2019-03-07", "23:30:00", "", "-12:00"}));
+
+INSTANTIATE_TEST_SUITE_P(
+    Rejected, DateTextParser,
+    ::testing::Values(ParseCase{"", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"abc", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"+", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"-", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"-x2019", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{" 2019:03:07", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"2019:03:07 09", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"2019:03:07+09:00", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"2019:03:07Z", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"2019:03:07 09:05:30:01", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"2019:03:07 09:05:30.1234", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"2019:03:07 09:05:30+15", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"2019:03:07 09:05:30+123:00", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"2019:03:07 09:05:30+09:60", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"2019:03:07 09.5:05", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"2019:03:07 09:05.5:30", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"2019:03:07 09.5", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"2019:03:07 09.1234", kColon, kHourOnly, false, "", "", "", ""},
+                      ParseCase{"2019:03:07 09:05:3x", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"2019:03:07T09T05", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"2019:0a:07", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"Z", kColon, kFull, false, "", "", "", ""},
+                      ParseCase{"99999999999999999999:01:01", kColon, kFull, false, "", "", "", ""}));
+
+TEST(OffsetParser, ReadsOffsetsAndNormalisesTheirText) {
+  struct Case {
+    const char* text;
+    bool withColon;
+    double seconds;
+    const char* zoneText;
+  } cases[] = {
+      {"+09:00", true, 32400, "+09:00"},   {"+0930", true, 34200, "+09:30"},  {"+0930", false, 34200, "+0930"},
+      {"-09:30", true, -34200, "-09:30"},  {"+9", true, 32400, "+09:00"},     {"-12", true, -43200, "-12:00"},
+      {"+14", false, 50400, "+1400"},      {"+05/45", true, 20700, "+05:45"}, {"+05:45:30", true, 20730, "+05:45:30"},
+      {"+05:45:00", true, 20700, "+05:45"}, {"+99:00", true, 356400, "+99:00"},
+  };
+  for (const Case& c : cases) {
+    std::string text;
+    EXPECT_EQ(DateAdditions::secondsFromOffsetString(c.text, c.withColon, &text), c.seconds) << c.text;
+    EXPECT_EQ(text, c.zoneText) << c.text;
+  }
+}
+
+TEST(OffsetParser, FailsWithTheMarker) {
+  for (const char* text : {"", "0900", "09:00", "+15", "+", "+09:60", "+09:00:60", "+1:2:3:4", "+ab:00", "+09:x"}) {
+    std::string zone = "kept";
+    EXPECT_EQ(DateAdditions::secondsFromOffsetString(text, true, &zone), DateAdditions::kOffsetFailure) << text;
+    EXPECT_EQ(zone, "kept") << text;
+  }
+}
+
+TEST(DateWithDateTimeString, ReadsTextAsUtcUnlessAZoneIsGiven) {
+  lumtest::ZoneGuard zone("Asia/Tokyo");  // must not matter
+  struct Case {
+    const char* text;
+    const char* utc;
+    std::int32_t nanoseconds;
+  } cases[] = {
+      {"2019:03:07 09:05:30", "2019:03:07 09:05:30", 0},
+      {"2019-03-07T09:05:30.5+09:00", "2019:03:07 00:05:30", 500'000'000},
+      {"2019:03:07 09:05:30.050", "2019:03:07 09:05:30", 50'000'000},
+      {"2019:03:07 09:05:30Z", "2019:03:07 09:05:30", 0},
+      {"2019:03:07 09:05:30 -0930", "2019:03:07 18:35:30", 0},
+      {"2019:03:07 09", "2019:03:07 09:00:00", 0},
+      {"2019:03:07", "2019:03:07 00:00:00", 0},
+      {"0000:01:01 00:00:00", "0001:01:01 00:00:00", 0},  // 1 BC prints as its era year
+      {"9999:12:31 23:59:59", "9999:12:31 23:59:59", 0},
+      // Only a full date is read as such; a year alone falls back to year 0.
+      {"2019", "0001:01:01 00:00:00", 0},
+  };
+  for (const Case& c : cases) {
+    const auto date = DateAdditions::dateWithDateTimeString(c.text);
+    ASSERT_TRUE(date) << c.text;
+    EXPECT_EQ(DateAdditions::tiffDateString(*date), c.utc) << c.text;
+    EXPECT_EQ(date->nanoseconds, c.nanoseconds) << c.text;
+  }
+  EXPECT_FALSE(DateAdditions::dateWithDateTimeString("2019:03:07 09:05:30:00"));
+  EXPECT_FALSE(DateAdditions::dateWithDateTimeString("    "));
+}
+
+TEST(DateWithDateTimeString, BcYearIsEraZero) {
+  const auto date = DateAdditions::dateWithDateTimeString("0000:01:01 00:00:00");
+  ASSERT_TRUE(date);
+  long year = 0;
+  bool bc = false;
+  const TimeZone gmt = TimeZone::gmt();
+  ASSERT_TRUE(DateAdditions::getYear(*date, &year, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &gmt, &bc));
+  EXPECT_EQ(year, 1);
+  EXPECT_TRUE(bc);
+  EXPECT_LT(*date, *DateAdditions::dateWithDateTimeString("0001:01:01 00:00:00"));
+}
+
+TEST(DateTextParser, LocalTimeInADaylightSavingGapMovesForward) {
+  lumtest::ZoneGuard zone("America/New_York");
+  std::string ymd, hms;
+  ASSERT_TRUE(DateAdditions::getDateTimeStrings("2019:03:10 02:30:00", &ymd, &hms, nullptr, nullptr, true, false));
+  EXPECT_EQ(ymd, "2019-03-10");
+  EXPECT_EQ(hms, "03:30:00");
+  // With an explicit zone the local rules do not apply.
+  ASSERT_TRUE(
+      DateAdditions::getDateTimeStrings("2019:03:10 02:30:00+00:00", &ymd, &hms, nullptr, nullptr, true, false));
+  EXPECT_EQ(hms, "02:30:00");
+}
+
+TEST(PasteNormalisation, BuildsIsoLikeText) {
+  lumtest::ZoneGuard zone("UTC");
+  struct Case {
+    const char* text;
+    bool allowedYMDH;
+    std::optional<std::string> result;
+  } cases[] = {
+      {"2019:03:07 09:05:30.250", false, "2019-03-07T09:05:30.250"},
+      {"2019:03:07 09:05:30", false, "2019-03-07T09:05:30"},
+      {"2019:03:07 09:05:30 +0930", false, "2019-03-07T09:05:30+09:30"},
+      {"2019:03:07 09:05:30Z", false, "2019-03-07T09:05:30Z"},
+      {"2019:03:07", false, "2019-03-07"},
+      {"2019:03:07 09", true, "2019-03-07T09"},
+      {"2019:03:07 09", false, std::nullopt},
+      {"hello", false, std::nullopt},
+  };
+  for (const Case& c : cases) EXPECT_EQ(DateAdditions::normalizedPasteString(c.text, c.allowedYMDH), c.result) << c.text;
+}
+
+}  // namespace
