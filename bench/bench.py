@@ -1,0 +1,153 @@
+"""The benchmark's driver: generates the sets, times every program, and
+prints and writes the results. bench/run builds the programs and calls this."""
+import argparse
+import datetime
+import json
+import os
+import platform
+import shutil
+import subprocess
+import sys
+
+import gensets
+import measure
+import report
+
+
+def parse_args(argv):
+    p = argparse.ArgumentParser(prog="bench/run")
+    p.add_argument("--small", type=int, default=10000, help="files in the 640x480 set")
+    p.add_argument("--large", type=int, default=500, help="files in the 12 MP set")
+    p.add_argument("--runs", type=int, default=5, help="timed runs of each program")
+    p.add_argument("--scratch", default="/tmp/lumidate-bench", help="folder for sets and copies")
+    p.add_argument("--cli", required=True, help="path of lumidate-cli")
+    p.add_argument("--floor", required=True, help="path of the floor program")
+    p.add_argument("--model", help="path of the document-model benchmark, when built")
+    p.add_argument("--results", help="Markdown file to write the results to")
+    p.add_argument("--command", default="bench/run", help="the command line, for the record")
+    p.add_argument("--note", default="", help="a line about the conditions of this run")
+    return p.parse_args(argv)
+
+
+def command_output(argv):
+    try:
+        return subprocess.run(argv, capture_output=True, text=True, timeout=30).stdout.strip()
+    except (OSError, subprocess.SubprocessError):
+        return ""
+
+
+def first_line_with(path, prefix, separator=":"):
+    try:
+        with open(path) as f:
+            for line in f:
+                if line.startswith(prefix) and separator in line:
+                    return line.split(separator, 1)[1].strip()
+    except OSError:
+        pass
+    return "unknown"
+
+
+def load_average():
+    try:
+        with open("/proc/loadavg") as f:
+            return " ".join(f.read().split()[:3])
+    except OSError:
+        return "unknown"
+
+
+def machine_description(scratch, repo, load_at_start, note):
+    mem_kb = first_line_with("/proc/meminfo", "MemTotal").split()[0]
+    disk = command_output(["findmnt", "-n", "-o", "SOURCE,FSTYPE", "--target", scratch])
+    device = disk.split()[0] if disk else ""
+    rota = command_output(["lsblk", "-d", "-n", "-o", "ROTA,MODEL", device]) if device else ""
+    kind = {"0": "solid-state", "1": "reported rotational"}.get(rota.split()[0] if rota else "", "")
+    commit = command_output(["git", "-C", repo, "rev-parse", "--short", "HEAD"]) or "unknown"
+    if command_output(["git", "-C", repo, "status", "--porcelain", "--untracked-files=no"]):
+        commit += " with uncommitted changes"
+    lines = [
+        ("CPU", "%s, %d logical cores (nproc)" % (first_line_with("/proc/cpuinfo", "model name"),
+                                                 os.cpu_count() or 0)),
+        ("memory", "%.1f GiB" % (int(mem_kb) / 1048576.0) if mem_kb.isdigit() else "unknown"),
+        ("disk", "%s (%s) for %s" % (disk or "unknown", kind or "kind unknown", scratch)),
+        ("system", "%s %s, %s" % (platform.system(), platform.release(),
+                                  first_line_with("/etc/os-release", "PRETTY_NAME", "=").strip('"'))),
+        ("tools", "exiftool %s, %s, %s" % (
+            command_output(["exiftool", "-ver"]) or "absent",
+            (command_output(["exiv2", "--version"]).splitlines() or ["exiv2 absent"])[0],
+            command_output(["jhead", "-V"]) or "jhead absent")),
+        ("load average (1, 5, 15 min)", "%s at the start, %s at the end" % (load_at_start, load_average())),
+    ]
+    if note:
+        lines.append(("conditions", note))
+    return {"date": datetime.datetime.now(datetime.timezone.utc).strftime("%Y-%m-%d %H:%M UTC"),
+            "commit": commit, "lines": lines}
+
+
+def run_model_bench(model, scratch, small, large):
+    if not model or not os.path.exists(model):
+        return None, ("Not measured: the document-model benchmark is not built yet (it is built "
+                      "once the image-file and multi-file document classes are in the tree).")
+    argv = [model, "--small", os.path.join(scratch, "sets", "small"),
+            "--large", os.path.join(scratch, "sets", "large")]
+    print("== document model and thumbnails", flush=True)
+    done = subprocess.run(argv, capture_output=True, text=True)
+    if done.returncode != 0:
+        tail = (done.stderr.strip().splitlines() or [""])[-1]
+        return None, "Not measured: the model benchmark failed (exit %d): %s" % (done.returncode, tail)
+    data = json.loads(done.stdout)
+    return data, data.get("summary", "")
+
+
+def main(argv):
+    args = parse_args(argv)
+    repo = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
+    load_at_start = load_average()
+    os.makedirs(args.scratch, exist_ok=True)
+    log_dir = os.path.join(args.scratch, "logs")
+    shutil.rmtree(log_dir, ignore_errors=True)
+    os.makedirs(log_dir)
+
+    print("== sets in %s" % args.scratch, flush=True)
+    set_lines = []
+    for name, count in (("small", args.small), ("large", args.large)):
+        if count <= 0:
+            continue
+        stamp = gensets.build_set(args.scratch, name, count)
+        folder = os.path.join(args.scratch, "sets", name)
+        gensets.check_with_exiftool(folder, sorted({1, (count + 1) // 2, count}))
+        text = ("%d JPEGs of %dx%d, quality %d, %.1f KB each, with Make/Model, three different "
+                "dates, sub-seconds, GPS and an IFD1 thumbnail" % (
+                    count, stamp["width"], stamp["height"], stamp["quality"], stamp["size"] / 1024.0))
+        print("  %s: %s" % (name, text), flush=True)
+        set_lines.append((name, text))
+
+    results = {"read": {}, "shift": {}}
+    first_dto = gensets.dates_for(1)["DateTimeOriginal"]
+    for name, _ in set_lines:
+        folder = os.path.join(args.scratch, "sets", name)
+        with open(os.path.join(folder, "layout.json")) as f:
+            date_at = json.load(f)["fields"]["DateTimeOriginal"]
+        print("== reading dates, %s set" % name, flush=True)
+        results["read"][name] = measure.measure_set(
+            name, folder, first_dto, measure.read_programs(args.cli, args.floor), args.runs,
+            None, log_dir, shifting=False)
+        print("== shifting dates, %s set" % name, flush=True)
+        results["shift"][name] = measure.measure_set(
+            name, folder, first_dto, measure.shift_programs(args.cli, args.floor, date_at),
+            args.runs, os.path.join(args.scratch, "work"), log_dir, shifting=True)
+
+    results["model"], model_note = run_model_bench(args.model, args.scratch, args.small, args.large)
+    with open(os.path.join(args.scratch, "results.json"), "w") as f:
+        json.dump(results, f, indent=1)
+    machine = machine_description(args.scratch, repo, load_at_start, args.note)
+    text = report.render(results, machine, set_lines, args.command, model_note)
+    print()
+    print(text)
+    if args.results:
+        with open(args.results, "w") as f:
+            f.write(text)
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))
