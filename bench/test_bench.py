@@ -1,0 +1,200 @@
+"""Checks of the benchmark's own parts: the set generator's patching, the
+floor program, and the arithmetic of the results table. Run by bench/run
+before it measures anything (python3 -m unittest bench/test_bench.py)."""
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+import unittest
+
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+
+import gensets  # noqa: E402
+import measure  # noqa: E402
+import report  # noqa: E402
+
+
+def fake_base(big_endian=True):
+    """Bytes laid out like the base file: the three placeholder dates and the
+    three sub-second entries, between filler."""
+    order = "big" if big_endian else "little"
+    out = bytearray(b"\xff\xd8" + b"\x00" * 30)
+    for text in gensets.PLACEHOLDERS.values():
+        out += text.encode() + b"\0" + b"\x11" * 5
+    for name, tag in gensets.SUBSEC_TAGS.items():
+        out += tag.to_bytes(2, order) + (2).to_bytes(2, order) + (4).to_bytes(4, order)
+        out += gensets.SUBSEC_PLACEHOLDERS[name].encode() + b"\0" + b"\x22" * 3
+    return bytes(out)
+
+
+class GeneratorTest(unittest.TestCase):
+    def test_fields_are_found_in_both_byte_orders(self):
+        for big in (True, False):
+            data = fake_base(big)
+            layout = gensets.locate_fields(data)
+            for name, text in gensets.PLACEHOLDERS.items():
+                self.assertEqual(data[layout[name]:layout[name] + 19], text.encode(), name)
+            for name, text in gensets.SUBSEC_PLACEHOLDERS.items():
+                self.assertEqual(data[layout[name]:layout[name] + 3], text.encode(), name)
+
+    def test_a_placeholder_found_twice_is_refused(self):
+        data = fake_base() + gensets.PLACEHOLDERS["DateTime"].encode() + b"\0"
+        with self.assertRaises(RuntimeError):
+            gensets.locate_fields(data)
+
+    def test_patching_changes_only_the_six_fields(self):
+        base = fake_base()
+        layout = gensets.locate_fields(base)
+        out = gensets.patched(base, layout, 4321)
+        self.assertEqual(len(out), len(base))
+        texts = gensets.dates_for(4321)
+        touched = set()
+        for name, text in texts.items():
+            at = layout[name]
+            self.assertEqual(out[at:at + len(text)], text.encode())
+            touched.update(range(at, at + len(text)))
+        for i in range(len(base)):
+            if i not in touched:
+                self.assertEqual(out[i], base[i], "byte %d" % i)
+
+    def test_dates_differ_within_and_between_files(self):
+        seen = set()
+        for index in (1, 2, 59, 60, 999, 1000, 10000):
+            d = gensets.dates_for(index)
+            dates = [d["DateTimeOriginal"], d["DateTimeDigitized"], d["DateTime"]]
+            self.assertEqual(len(set(dates)), 3)
+            for text in dates:
+                self.assertRegex(text, r"^\d{4}:\d\d:\d\d \d\d:\d\d:\d\d$")
+            for key in ("SubSecTimeOriginal", "SubSecTimeDigitized", "SubSecTime"):
+                self.assertRegex(d[key], r"^\d{3}$")
+            self.assertNotIn(d["DateTimeOriginal"], seen)
+            seen.add(d["DateTimeOriginal"])
+
+
+@unittest.skipUnless(shutil.which("c++"), "no C++ compiler")
+class FloorTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.dir = tempfile.mkdtemp(prefix="bench-floor-test-")
+        cls.floor = os.path.join(cls.dir, "floor")
+        source = os.path.join(os.path.dirname(os.path.abspath(__file__)), "floor.cpp")
+        subprocess.run(["c++", "-std=c++20", "-O1", source, "-o", cls.floor], check=True)
+
+    @classmethod
+    def tearDownClass(cls):
+        shutil.rmtree(cls.dir)
+
+    def file_with(self, data):
+        path = os.path.join(self.dir, "f.jpg")
+        with open(path, "wb") as f:
+            f.write(data)
+        return path
+
+    def test_write_puts_19_bytes_in_place_and_nothing_else(self):
+        original = bytes(range(256)) * 4
+        for extra in ([], ["--fsync"]):
+            path = self.file_with(original)
+            done = subprocess.run([self.floor, "write"] + extra + ["--at", "100", path],
+                                  stdout=subprocess.DEVNULL)
+            self.assertEqual(done.returncode, 0)
+            with open(path, "rb") as f:
+                after = f.read()
+            self.assertEqual(after[:100], original[:100])
+            self.assertEqual(after[100:119], b"2020:02:29 12:34:56")
+            self.assertEqual(after[119:], original[119:])
+
+    def test_failures_give_status_1_and_usage_status_2(self):
+        path = self.file_with(b"x" * 10)
+        missing = os.path.join(self.dir, "absent.jpg")
+        cases = [
+            (["read", path, missing], 1),
+            (["write", "--at", "0", missing], 1),
+            (["read", path], 0),
+            (["write", path], 2),  # no offset
+            (["copy", path], 2),
+        ]
+        for args, status in cases:
+            done = subprocess.run([self.floor] + args, capture_output=True)
+            self.assertEqual(done.returncode, status, args)
+
+
+def program(key, kind, walls, skip=None, rss=None, starts=None):
+    return {"key": key, "label": key, "kind": kind, "skip": skip, "walls": walls,
+            "rss_kb": rss or [1024] * len(walls), "start_walls": starts or []}
+
+
+class ReportTest(unittest.TestCase):
+    def test_summary_is_per_file_median_and_spread(self):
+        s = report.summary(program("x", "peer", [3.0, 1.0, 2.0], rss=[2048, 1024, 4096]), 1000)
+        self.assertAlmostEqual(s["median"], 0.002)
+        self.assertAlmostEqual(s["min"], 0.001)
+        self.assertAlmostEqual(s["max"], 0.003)
+        self.assertAlmostEqual(s["rss_mb"], 2.0)
+        self.assertIsNone(report.summary(program("x", "peer", [1.0], skip="not built yet"), 10))
+        self.assertIsNone(report.summary(program("x", "peer", []), 10))
+
+    def test_per_file_units(self):
+        cases = [(12.34e-6, "12.3 µs"), (99.9e-6, "99.9 µs"), (123.4e-6, "123 µs"),
+                 (2.345e-3, "2.35 ms"), (0.25, "250 ms")]
+        for seconds, text in cases:
+            self.assertEqual(report.per_file(seconds), text)
+
+    def test_goal_states(self):
+        self.assertEqual(report.goal("g", 1.4, 1.5, True)[2], "met")
+        self.assertEqual(report.goal("g", 1.6, 1.5, True)[2], "**missed**")
+        self.assertEqual(report.goal("g", 120, 100, False)[2], "met")
+        self.assertEqual(report.goal("g", 80, 100, False)[2], "**missed**")
+        self.assertEqual(report.goal("g", None, 100, False)[1], "not measured")
+
+    def test_rows_compare_with_the_floor_and_lumidate(self):
+        result = {"count": 100, "programs": [
+            program("floor", "floor", [0.001]),
+            program("lumidate", "lumidate", [0.002]),
+            program("jhead", "peer", [0.006]),
+            program("exiv2", "peer", [], skip="not installed"),
+        ]}
+        rows = {r[0]: r for r in report.section_rows("read", result)}
+        self.assertEqual(rows["lumidate"][4], "2.00x")
+        self.assertEqual(rows["jhead"][4], "6.00x")
+        self.assertEqual(rows["jhead"][5], "3.00x")
+        self.assertEqual(rows["lumidate"][5], "–")
+        self.assertEqual(rows["exiv2"][1], "not installed")
+
+    def test_goal_rows_use_the_durable_floor_and_the_large_set(self):
+        small = {"count": 10, "programs": [program("floor", "floor", [1.0]),
+                                           program("lumidate", "lumidate", [1.2], rss=[200 * 1024])]}
+        shift = {"count": 10, "programs": [program("floor-write", "floor", [0.1]),
+                                           program("floor-fsync", "floor", [1.0]),
+                                           program("lumidate", "lumidate", [1.5]),
+                                           program("exiftool", "peer", [300.0]),
+                                           program("jhead", "peer", [15.0])]}
+        results = {"read": {"small": small}, "shift": {"large": shift},
+                   "model": {"load_s": 3.0, "apply_s": 0.05, "thumbs_per_s": 100.0}}
+        rows = {r[0]: r for r in report.goal_rows(results)}
+        self.assertEqual(rows["dates / floor read, small set (≤ 1.5x)"][1:], ["1.20x", "met"])
+        self.assertEqual(rows["dates / floor read, large set (≤ 1.5x)"][1], "not measured")
+        self.assertEqual(rows["shift / floor write+fsync, large set (≤ 2x)"][1:], ["1.50x", "met"])
+        self.assertEqual(rows["exiftool shift / Lumidate shift, large set (≥ 100x)"][1:], ["200.00x", "met"])
+        self.assertEqual(rows["jhead shift / Lumidate shift, large set (≥ 20x)"][1:], ["10.00x", "**missed**"])
+        self.assertEqual(rows["peak RSS of dates over the small set (< 150 MB)"][2], "**missed**")
+        self.assertEqual(rows["model load / dates, small set (≤ 2x)"][1:], ["2.50x", "**missed**"])
+        self.assertEqual(rows["model apply over the small set (< 100 ms)"][2], "met")
+        self.assertEqual(rows["model undo over the small set (< 100 ms)"][1], "not measured")
+        self.assertEqual(rows["thumbnails of 12 MP files per second, all cores (≥ 150)"][2], "**missed**")
+
+
+@unittest.skipUnless(os.path.exists(measure.TIME), "GNU time is not installed")
+class MeasureTest(unittest.TestCase):
+    def test_run_timed_reports_status_rss_and_last_error_line(self):
+        with tempfile.TemporaryDirectory() as d:
+            wall, rss, status, last = measure.run_timed(
+                ["sh", "-c", "echo first >&2; echo last words >&2; exit 3"], d, d, "t")
+        self.assertEqual(status, 3)
+        self.assertEqual(last, "last words")
+        self.assertGreater(rss, 0)
+        self.assertGreater(wall, 0)
+
+
+if __name__ == "__main__":
+    unittest.main()
