@@ -13,21 +13,23 @@ std::optional<std::int64_t> TimeZone::secondsFromGMT(std::int64_t utcSeconds) co
 
 std::optional<std::int64_t> TimeZone::utcFromWall(std::int64_t wallSeconds) const {
   if (!local_) return wallSeconds - offset_;
-  // Two guesses cover both offsets around any single transition: the offset
-  // at the wall time read as UTC, and the offset at the first guess.
-  const auto first = secondsFromGMT(wallSeconds);
-  if (!first) return std::nullopt;
-  const auto second = secondsFromGMT(wallSeconds - *first);
-  if (!second) return std::nullopt;
-
-  std::optional<std::int64_t> earliest;
-  for (std::int64_t offset : {*first, *second}) {
-    const std::int64_t candidate = wallSeconds - offset;
-    const auto actual = secondsFromGMT(candidate);
-    if (actual && *actual == offset) earliest = earliest ? std::min(*earliest, candidate) : candidate;
+  // Zone rules change at most once within a day or so: the offsets a day
+  // before and after the wall time (read as UTC) are the candidates.
+  std::optional<std::int64_t> offsets[3];
+  for (int i = 0; i < 3; ++i) {
+    offsets[i] = secondsFromGMT(wallSeconds + (i - 1) * 86400);
+    if (!offsets[i]) return std::nullopt;
   }
-  if (earliest) return earliest;
+  std::optional<std::int64_t> latest;
+  std::int64_t smallestOffset = *offsets[0];
+  for (const auto& offset : offsets) {
+    smallestOffset = std::min(smallestOffset, *offset);
+    const std::int64_t candidate = wallSeconds - *offset;
+    const auto actual = secondsFromGMT(candidate);
+    if (actual && *actual == *offset) latest = latest ? std::max(*latest, candidate) : candidate;
+  }
+  if (latest) return latest;
   // In a gap the offset before the change is the smaller one; using it
   // lands after the gap, as a clock that was not set forward would read.
-  return wallSeconds - std::min(*first, *second);
+  return wallSeconds - smallestOffset;
 }

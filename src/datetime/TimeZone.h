@@ -20,7 +20,8 @@ class TimeZone {
   // The instant whose wall clock in this zone reads wallSeconds (wall-clock
   // fields counted as if they were UTC). A wall time that does not exist
   // (skipped by a daylight-saving change) moves forward by the size of the
-  // gap; a wall time that occurs twice gives its first occurrence.
+  // gap; a wall time that occurs twice gives its later occurrence (after the
+  // clocks went back), as common calendar libraries do.
   std::optional<std::int64_t> utcFromWall(std::int64_t wallSeconds) const;
 
   friend bool operator==(const TimeZone&, const TimeZone&) = default;

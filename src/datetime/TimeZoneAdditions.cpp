@@ -1,0 +1,56 @@
+#include "datetime/TimeZoneAdditions.h"
+
+#include <cstdlib>
+
+#include "datetime/DateAdditions.h"
+#include "datetime/NumericText.h"
+
+namespace TimeZoneAdditions {
+
+TimeZone gmtTimeZone() { return TimeZone::gmt(); }
+
+TimeZone timeZoneFromString(std::string_view text) {
+  if (text == "Z") return TimeZone::gmt();
+  const std::string trimmed = numtext::trimSpaces(text);
+  if (trimmed.size() != 5 && trimmed.size() != 6) return TimeZone::local();
+  // The separator between hours and minutes is not checked: +0930 and
+  // +09:30 read alike.
+  const long hours = numtext::integerValue(trimmed.substr(1, 2));
+  const long minutes = numtext::integerValue(trimmed.substr(trimmed.size() - 2));
+  const long seconds = hours * 3600 + minutes * 60;
+  switch (trimmed.front()) {
+    case '-':
+      return TimeZone::withSecondsFromGMT(-seconds);
+    case '+':
+      return TimeZone::withSecondsFromGMT(seconds);
+    default:
+      return TimeZone::local();
+  }
+}
+
+std::string stringTimeZoneForSecondsFromGMT(long seconds) {
+  const unsigned long magnitude = seconds < 0 ? 0UL - static_cast<unsigned long>(seconds) : seconds;
+  return numtext::format("%s%.2lu:%.2lu", seconds < 0 ? "-" : "+", magnitude / 3600, magnitude / 60 % 60);
+}
+
+std::string timeZoneString(const TimeZone& zone) { return timeZoneStringWithDate(zone, Instant::now()); }
+
+std::string timeZoneStringWithDate(const TimeZone& zone, const Instant& date) {
+  const auto offset = zone.secondsFromGMT(date.seconds);
+  if (!offset || *offset == 0) return "+00:00";
+  // Written as "yyyy-MM-dd HH:mm:ss +hh:mm[:ss]" and read back by the date
+  // parser, which keeps only offsets it can represent.
+  long y = 0, m = 0, d = 0, h = 0, mi = 0, s = 0;
+  if (!DateAdditions::getYear(date, &y, &m, &d, nullptr, &h, &mi, &s, &zone, nullptr)) return "+00:00";
+  const unsigned long magnitude = *offset < 0 ? static_cast<unsigned long>(-*offset) : *offset;
+  std::string text = numtext::format("%.4ld-%.2ld-%.2ld %.2ld:%.2ld:%.2ld %s%.2lu:%.2lu", y, m, d, h, mi, s,
+                                     *offset < 0 ? "-" : "+", magnitude / 3600, magnitude / 60 % 60);
+  if (magnitude % 60 != 0) text += numtext::format(":%.2lu", magnitude % 60);
+  std::string zoneText;
+  if (!DateAdditions::getDateTimeStrings(text, nullptr, nullptr, nullptr, &zoneText, true, false) ||
+      zoneText.empty() || zoneText == "Z")
+    return "+00:00";
+  return zoneText;
+}
+
+}  // namespace TimeZoneAdditions

@@ -1,0 +1,163 @@
+#include <gtest/gtest.h>
+
+#include "datetime/CivilCalendar.h"
+#include "datetime/DateAdditions.h"
+#include "datetime/ZoneGuard.h"
+
+namespace {
+
+using DateAdditions::tiffDateString;
+
+std::string utcText(std::optional<Instant> date) { return date ? tiffDateString(*date) : "none"; }
+
+TEST(CivilCalendar, DayNumbersRoundTripAcrossEras) {
+  for (std::int64_t day = -4'000'000; day <= 4'000'000; day += 997) {
+    const civil::YearMonthDay ymd = civil::civilFromDays(day);
+    ASSERT_EQ(civil::daysFromCivil(ymd.year, ymd.month, ymd.day), day);
+    ASSERT_LE(ymd.day, civil::lastDayOfMonth(ymd.year, ymd.month));
+  }
+  EXPECT_EQ(civil::daysFromCivil(9999, 12, 31) - civil::daysFromCivil(1, 1, 1), 3'652'058);
+  EXPECT_EQ(civil::weekdayFromDays(civil::daysFromCivil(2019, 3, 7)), 5u);  // a Thursday
+  EXPECT_EQ(civil::weekdayFromDays(civil::daysFromCivil(1, 1, 1)), 2u);     // a Monday
+}
+
+TEST(Builders, RollFieldsOverLeniently) {
+  const TimeZone gmt = TimeZone::gmt();
+  struct Case {
+    long y, m, d, h, mi, s;
+    const char* utc;
+  } cases[] = {
+      {2019, 13, 1, 0, 0, 0, "2020:01:01 00:00:00"},   {2019, 3, 0, 0, 0, 0, "2019:02:28 00:00:00"},
+      {2020, 3, 0, 0, 0, 0, "2020:02:29 00:00:00"},    {2019, 3, 7, 24, 0, 0, "2019:03:08 00:00:00"},
+      {2019, 12, 31, 23, 59, 60, "2020:01:01 00:00:00"}, {2019, 0, 1, 0, 0, 0, "2018:12:01 00:00:00"},
+      {2019, -11, 1, 0, 0, 0, "2018:01:01 00:00:00"},  {2019, 1, 1, 0, 0, -1, "2018:12:31 23:59:59"},
+      {1, 1, 1, 0, 0, -1, "0001:12:31 23:59:59"},      // into 1 BC, printed as its era year
+      {-1, 12, 31, 23, 59, 60, "0001:01:01 00:00:00"},  // 1 BC rolls into 1 AD
+  };
+  for (const Case& c : cases)
+    EXPECT_EQ(utcText(DateAdditions::dateWithY(c.y, c.m, c.d, c.h, c.mi, c.s, gmt)), c.utc)
+        << c.y << "-" << c.m << "-" << c.d << " " << c.h << ":" << c.mi << ":" << c.s;
+}
+
+TEST(Builders, SignedYearMeansEraYearButPlainYearDoesNot) {
+  const TimeZone gmt = TimeZone::gmt();
+  long year = 0;
+  bool bc = false;
+  // Signed: -1 is 1 BC.
+  const auto signedDate = DateAdditions::dateWithY(-1, 1, 1, 0, 0, 0, gmt);
+  ASSERT_TRUE(DateAdditions::getYear(*signedDate, &year, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &gmt, &bc));
+  EXPECT_EQ(year, 1);
+  EXPECT_TRUE(bc);
+  // Plain: year 0 is the year before 1 AD, -1 the one before that (2 BC).
+  const auto plain = DateAdditions::dateWithY(-1, 1, 1, gmt);
+  ASSERT_TRUE(DateAdditions::getYear(*plain, &year, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &gmt, &bc));
+  EXPECT_EQ(year, 2);
+  EXPECT_TRUE(bc);
+  EXPECT_EQ(DateAdditions::dateWithY(0, 1, 1, gmt), signedDate);
+}
+
+TEST(Builders, RefuseAbsurdFieldsInsteadOfOverflowing) {
+  const TimeZone gmt = TimeZone::gmt();
+  EXPECT_FALSE(DateAdditions::dateWithY(LONG_MAX, 1, 1, 0, 0, 0, gmt));
+  EXPECT_FALSE(DateAdditions::dateWithY(2019, LONG_MIN, 1, 0, 0, 0, gmt));
+  EXPECT_FALSE(DateAdditions::dateWithY(2019, 1, 1, LONG_MAX, 0, 0, gmt));
+  EXPECT_FALSE(DateAdditions::dateWithY(5'000'000, 1, 1, 0, 0, 0, gmt));
+  EXPECT_TRUE(DateAdditions::dateWithY(-9999, 1, 1, 0, 0, 0, gmt));
+  EXPECT_TRUE(DateAdditions::dateWithY(10000, 1, 1, 0, 0, 0, gmt));
+}
+
+TEST(Splitters, WriteOnlyTheRequestedFieldsInTheRequestedZone) {
+  const auto date = DateAdditions::dateWithY(2019, 3, 7, 23, 5, 30, 123'456'789, TimeZone::gmt());
+  ASSERT_TRUE(date);
+  const TimeZone tokyo = TimeZone::withSecondsFromGMT(9 * 3600);
+  long y = -7, m = -7, d = -7, w = -7, h = -7, mi = -7, s = -7, ns = -7;
+  bool bc = true;
+  ASSERT_TRUE(DateAdditions::getYear(*date, &y, &m, &d, &w, &h, &mi, &s, &ns, &tokyo, &bc));
+  EXPECT_EQ((std::array{y, m, d, w, h, mi, s, ns}), (std::array<long, 8>{2019, 3, 8, 6, 8, 5, 30, 123'456'789}));
+  EXPECT_FALSE(bc);
+  long onlyDay = -7;
+  ASSERT_TRUE(DateAdditions::getYear(*date, nullptr, nullptr, &onlyDay, nullptr, nullptr, nullptr, nullptr, &tokyo, nullptr));
+  EXPECT_EQ(onlyDay, 8);
+  EXPECT_EQ(DateAdditions::hourWithTimeZone(*date, tokyo), 8);
+  EXPECT_EQ(DateAdditions::dayWithTimeZone(*date, TimeZone::gmt()), 7);
+}
+
+TEST(Splitters, LocalZoneFollowsTz) {
+  lumtest::ZoneGuard zone("Asia/Kolkata");
+  const auto date = DateAdditions::dateWithY(2019, 3, 7, 20, 0, 0, TimeZone::gmt());
+  EXPECT_EQ(DateAdditions::day(*date), 8);
+  EXPECT_EQ(DateAdditions::hour(*date), 1);
+  EXPECT_EQ(DateAdditions::minute(*date), 30);
+  EXPECT_EQ(DateAdditions::stringDayOfTheWeek(*date), "Fri");
+  EXPECT_EQ(DateAdditions::dateWithY(2019, 3, 8, 1, 30, 0), date);
+}
+
+TEST(LocalZone, GapMovesForwardAndRepeatedHourTakesTheLater) {
+  lumtest::ZoneGuard zone("Europe/Berlin");
+  // 2021-03-28 02:30 does not exist in Berlin; 2021-10-31 02:30 happens twice.
+  EXPECT_EQ(utcText(DateAdditions::dateWithY(2021, 3, 28, 2, 30, 0)), "2021:03:28 01:30:00");
+  EXPECT_EQ(utcText(DateAdditions::dateWithY(2021, 10, 31, 2, 30, 0)), "2021:10:31 01:30:00");
+  EXPECT_EQ(utcText(DateAdditions::dateWithY(2021, 7, 1, 12, 0, 0)), "2021:07:01 10:00:00");
+}
+
+struct AddCase {
+  const char* start;
+  long years, months, days, hours, minutes, seconds;
+  const char* result;  // "none" when refused
+  bool bc;
+};
+
+class DateByAdding : public ::testing::TestWithParam<AddCase> {};
+
+TEST_P(DateByAdding, ClampsMonthEndsInUtc) {
+  lumtest::ZoneGuard zone("America/New_York");  // must not matter
+  const AddCase& c = GetParam();
+  const auto start = DateAdditions::dateWithDateTimeString(c.start);
+  ASSERT_TRUE(start) << c.start;
+  bool bc = !c.bc;
+  const auto sum = DateAdditions::dateByAddingWithYears(*start, c.years, c.months, c.days, c.hours, c.minutes, c.seconds, &bc);
+  EXPECT_EQ(utcText(sum), c.result) << c.start;
+  if (sum) {
+    EXPECT_EQ(bc, c.bc) << c.start;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, DateByAdding,
+    ::testing::Values(AddCase{"2020:01:31 00:00:00", 0, 1, 0, 0, 0, 0, "2020:02:29 00:00:00", false},
+                      AddCase{"2019:01:31 00:00:00", 0, 1, 0, 0, 0, 0, "2019:02:28 00:00:00", false},
+                      AddCase{"2020:02:29 00:00:00", 1, 0, 0, 0, 0, 0, "2021:02:28 00:00:00", false},
+                      AddCase{"2020:02:29 00:00:00", 4, 0, 0, 0, 0, 0, "2024:02:29 00:00:00", false},
+                      // Years first, then months, each clamping.
+                      AddCase{"2020:02:29 10:00:00", 1, 1, 0, 0, 0, 0, "2021:03:28 10:00:00", false},
+                      AddCase{"2019:03:31 00:00:00", 0, -1, 0, 0, 0, 0, "2019:02:28 00:00:00", false},
+                      AddCase{"2019:05:31 00:00:00", 0, 1, 1, 0, 0, 0, "2019:07:01 00:00:00", false},
+                      AddCase{"2019:12:31 23:59:59", 0, 0, 0, 0, 0, 1, "2020:01:01 00:00:00", false},
+                      AddCase{"2019:03:10 01:30:00", 0, 0, 0, 1, 0, 0, "2019:03:10 02:30:00", false},
+                      AddCase{"2019:03:07 09:05:30", 0, 0, 0, -9, -5, -31, "2019:03:06 23:59:59", false},
+                      AddCase{"2019:03:07 09:05:30", 0, 25, 0, 0, 0, 0, "2021:04:07 09:05:30", false},
+                      AddCase{"2019:03:07 09:05:30", 0, -27, 0, 0, 0, 0, "2016:12:07 09:05:30", false},
+                      AddCase{"0001:01:01 00:00:00", 0, 0, 0, 0, 0, -1, "0001:12:31 23:59:59", true},
+                      AddCase{"0000:06:15 00:00:00", 1, 0, 0, 0, 0, 0, "0001:06:15 00:00:00", false},
+                      AddCase{"9999:12:31 23:59:59", 0, 0, 0, 0, 0, 1, "10000:01:01 00:00:00", false},
+                      AddCase{"10000:01:01 00:00:00", 0, 0, 0, 0, 0, -1, "none", false},
+                      AddCase{"2019:03:07 09:05:30", LONG_MAX, 0, 0, 0, 0, 0, "999999:12:31 23:59:59", false},
+                      AddCase{"2019:03:07 09:05:30", 0, 0, 0, 0, 0, LONG_MIN, "1000000:01:01 00:00:00", true}));
+
+TEST(DateByAdding, KeepsNanoseconds) {
+  const auto start = DateAdditions::dateWithDateTimeString("2019:03:07 09:05:30.25");
+  const auto sum = DateAdditions::dateByAddingWithYears(*start, 0, 0, 1, 0, 0, 0);
+  ASSERT_TRUE(sum);
+  EXPECT_EQ(sum->nanoseconds, 250'000'000);
+  EXPECT_EQ(sum->seconds - start->seconds, 86400);
+}
+
+TEST(TiffDateString, PrintsEraYearsAndWidensPast9999) {
+  const TimeZone gmt = TimeZone::gmt();
+  EXPECT_EQ(tiffDateString(*DateAdditions::dateWithY(-44, 3, 15, 12, 0, 0, gmt)), "0044:03:15 12:00:00");
+  EXPECT_EQ(tiffDateString(*DateAdditions::dateWithY(7, 1, 2, 3, 4, 5, gmt)), "0007:01:02 03:04:05");
+  EXPECT_EQ(tiffDateString(Instant{0, 999'999'999}), "1970:01:01 00:00:00");
+  EXPECT_EQ(tiffDateString(Instant{-1, 0}), "1969:12:31 23:59:59");
+}
+
+}  // namespace
