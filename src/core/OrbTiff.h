@@ -29,6 +29,7 @@
 #include "core/ByteView.h"
 #include "core/IFDItemID.h"
 #include "core/OrbIFDEntry.h"
+#include "core/OrbLocationCoordinate.h"
 
 // One IFD of the main chain with its sub-IFDs, by item key.
 using OrbIFDMap = std::map<std::uint32_t, OrbIFDEntry>;
@@ -87,6 +88,15 @@ class OrbTiff {
   // may carry UTF-8 text.
   bool hasExifVersionNotAllowedUTF8() const;
   bool hasGPSVersionNotAllowedUTF8() const;
+
+  // ---- GPS position (OrbTiffGPS.cpp) ----
+  // The image's position (destination false) or its destination, south and
+  // west negative; kOrbLocationCoordinateInvalid unless the GPS IFD has both
+  // values and both references.
+  OrbLocationCoordinate gpsLocationCoordinate(bool destination) const;
+  // The image's position; false, with the outputs untouched, when an entry
+  // is missing or an output is not given.
+  bool getLatitude(double* latitude, double* longitude) const;
 
   // ---- changes ----
   // Stores a copy of the entry under its item key at the index, adding empty
