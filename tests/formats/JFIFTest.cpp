@@ -1,0 +1,96 @@
+// The JFIF record: text forms, keyed access and the serialised segment.
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "formats/OrbJFIF.h"
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+Bytes serialise(const OrbJFIF& jfif, std::size_t bufferSize) {
+  Bytes out(bufferSize, 0xAA);
+  jfif.getByte(out);
+  return out;
+}
+
+TEST(JFIFRecord, NewRecordSerialisesToEighteenBytes) {
+  EXPECT_EQ(serialise(OrbJFIF::jfif(), 18),
+            (Bytes{0xFF, 0xE0, 0x00, 0x10, 0x4A, 0x46, 0x49, 0x46, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}));
+}
+
+TEST(JFIFRecord, FieldsLandAtTheirOffsets) {
+  OrbJFIF jfif;
+  jfif.setVersion({1, 1});
+  jfif.setUnit(1);
+  jfif.setXDensity(300);
+  jfif.setYDensity(300);
+  const Bytes out = serialise(jfif, 18);
+  EXPECT_EQ(Bytes(out.begin() + 9, out.begin() + 16), (Bytes{0x01, 0x01, 0x01, 0x01, 0x2C, 0x01, 0x2C}));
+  EXPECT_EQ(jfif.stringJFIFVersion(), "1.01");
+  EXPECT_EQ(jfif.stringJFIFUnit(), "Dots per inch");
+  EXPECT_EQ(jfif.stringJFIFDensityX(), "300");
+}
+
+TEST(JFIFRecord, TextForms) {
+  const struct {
+    std::int8_t high, low, unit;
+    const char *version, *unitText;
+  } cases[] = {
+      {1, 2, 2, "1.02", "Dots per cm"}, {1, 10, 0, "1.10", "No Units"}, {2, 0, 3, "2.00", "No Units"},
+      {1, 99, -1, "1.99", "No Units"},
+  };
+  for (const auto& c : cases) {
+    OrbJFIF jfif;
+    jfif.setVersion({c.high, c.low});
+    jfif.setUnit(c.unit);
+    EXPECT_EQ(jfif.stringJFIFVersion(), c.version);
+    EXPECT_EQ(jfif.stringJFIFUnit(), c.unitText);
+  }
+}
+
+TEST(JFIFRecord, KeysTakeTheLowBits) {
+  OrbJFIF jfif;
+  jfif.setValue(65608, "X Density");
+  jfif.setValue(0x1FF, "Density Unit");
+  jfif.setValue(0x102, "Thumbnail Width");
+  jfif.setValue(7, "Y Density");
+  jfif.setValue(9, "JFIF Version");
+  EXPECT_EQ(jfif.XDensity(), 72);
+  EXPECT_EQ(jfif.numberForKey("Density Unit"), -1);
+  EXPECT_EQ(jfif.numberForKey("Thumbnail Width"), 2);
+  EXPECT_EQ(jfif.numberForKey("Y Density"), 7);
+  EXPECT_EQ(jfif.numberForKey("Thumbnail Height"), 0);
+  EXPECT_EQ(jfif.numberForKey("JFIF Version"), std::nullopt);
+  EXPECT_EQ(jfif.version(), (OrbJFIFVersion{0, 0}));
+}
+
+TEST(JFIFRecord, ThumbnailAndGuards) {
+  OrbJFIF jfif;
+  const Bytes pixels{1, 2, 3, 4, 5, 6};
+  jfif.setThumbnail(pixels, 6);
+  jfif.setSize(18 + 6);
+  jfif.setThumbnailWidth(2);
+  jfif.setThumbnailHeight(1);
+  const Bytes out = serialise(jfif, 24);
+  EXPECT_EQ(out[3], 22);
+  EXPECT_EQ(Bytes(out.begin() + 18, out.end()), pixels);
+
+  // Buffer smaller than the segment, or a size below 18: nothing written.
+  EXPECT_EQ(serialise(jfif, 20), Bytes(20, 0xAA));
+  jfif.setSize(10);
+  EXPECT_EQ(serialise(jfif, 20), Bytes(20, 0xAA));
+  // A size beyond the thumbnail: the missing bytes are zeros.
+  jfif.setSize(18 + 8);
+  const Bytes longer = serialise(jfif, 26);
+  EXPECT_EQ(Bytes(longer.begin() + 18, longer.end()), (Bytes{1, 2, 3, 4, 5, 6, 0, 0}));
+
+  jfif.setThumbnail(pixels, 0);
+  EXPECT_FALSE(jfif.thumbnail());
+  jfif.setThumbnail(pixels, 0x10002);  // count taken in 16 bits
+  EXPECT_EQ(jfif.thumbnail()->size(), 2u);
+}
+
+}  // namespace

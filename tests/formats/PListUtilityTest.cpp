@@ -1,0 +1,81 @@
+// Property-list text from a parsed document, and child lookups by name.
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+
+#include "formats/OrbNSXMLElementUtility.h"
+#include "formats/OrbXMP.h"
+#include "formats/PListUtility.h"
+
+namespace {
+
+using DocPtr = std::unique_ptr<xmlDoc, void (*)(xmlDoc*)>;
+
+DocPtr parse(const std::string& xml) {
+  // Blank text between elements is dropped, as the writer expects.
+  return DocPtr(xmlReadMemory(xml.data(), static_cast<int>(xml.size()), nullptr, nullptr, XML_PARSE_NOBLANKS | XML_PARSE_NONET),
+                xmlFreeDoc);
+}
+
+const std::string kHeader = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
+const std::string kDoctype =
+    "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" \"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n";
+
+TEST(PListText, DocumentWithDictKeyAndString) {
+  const auto doc = parse(kHeader + kDoctype +
+                         "<plist version=\"1.0\" extra=\"dropped\"><dict><key>Name</key><string>a &lt; b</string>"
+                         "<key>On</key><true/><array><false/></array></dict></plist>");
+  ASSERT_TRUE(doc);
+  EXPECT_EQ(PListUtility::XMLStringForPList(doc.get()),
+            kHeader + kDoctype +
+                "<plist version=\"1.0\">\n<dict>\n\t<key>Name</key>\n\t<string>a < b</string>\n\t<key>On</key>\n"
+                "\t<true/>\n\t<array>\n\t\t<false/>\n\t</array>\n</dict>\n</plist>");
+  const auto data = PListUtility::XMLDataForPList(doc.get());
+  ASSERT_TRUE(data);
+  EXPECT_EQ(data->size(), PListUtility::XMLStringForPList(doc.get()).size());
+}
+
+TEST(PListText, UnknownElementsLeaveTheirTabsBehind) {
+  const auto doc = parse(kHeader + kDoctype +
+                         "<plist version=\"1.0\"><dict><key>n</key><integer>5</integer></dict></plist>");
+  EXPECT_EQ(PListUtility::XMLStringForPList(doc.get()),
+            kHeader + kDoctype + "<plist version=\"1.0\">\n<dict>\n\t<key>n</key>\n\t</dict>\n</plist>");
+}
+
+TEST(PListText, EmptyWithoutDTDOrRootAttributes) {
+  const auto noDTD = parse(kHeader + "<plist version=\"1.0\"><dict/></plist>");
+  EXPECT_EQ(PListUtility::XMLStringForPList(noDTD.get()), "");
+  EXPECT_FALSE(PListUtility::XMLDataForPList(noDTD.get()));
+  const auto noAttributes = parse(kHeader + kDoctype + "<plist><dict/></plist>");
+  EXPECT_EQ(PListUtility::XMLStringForPList(noAttributes.get()), "");
+  EXPECT_EQ(PListUtility::XMLStringForPList(nullptr), "");
+  // The closing tag is always </plist>, whatever the root is called.
+  const auto other = parse(kHeader + "<!DOCTYPE root>\n<root a=\"1\"/>");
+  EXPECT_EQ(PListUtility::XMLStringForPList(other.get()), kHeader + "<!DOCTYPE root>\n<root a=\"1\">\n</plist>");
+}
+
+TEST(XMLChildren, LookupByQualifiedName) {
+  const auto doc = parse(
+      "<x:xmpmeta xmlns:x=\"adobe:ns:meta/\" xmlns:rdf=\"http://www.w3.org/1999/02/22-rdf-syntax-ns#\">"
+      "<rdf:RDF><rdf:Description n=\"1\"/><rdf:Other/><rdf:Description n=\"2\"/></rdf:RDF></x:xmpmeta>");
+  const xmlNode* root = xmlDocGetRootElement(doc.get());
+  const xmlNode* rdf = OrbNSXMLElementUtility::orb_childNodeWithName(root, "rdf:RDF");
+  ASSERT_TRUE(rdf);
+  const auto descriptions = OrbNSXMLElementUtility::orb_childrenNodeWithName(rdf, "rdf:Description");
+  ASSERT_EQ(descriptions.size(), 2u);
+  EXPECT_EQ(std::string(reinterpret_cast<const char*>(descriptions[1]->properties->children->content)), "2");
+  EXPECT_EQ(OrbNSXMLElementUtility::orb_childNodeWithName(rdf, "Description"), nullptr);
+  EXPECT_TRUE(OrbNSXMLElementUtility::orb_childrenNodeWithName(rdf, "rdf:Missing").empty());
+}
+
+TEST(XMPObject, ChildrenKey) {
+  OrbXMP::Object dictionary;
+  EXPECT_EQ(OrbXMP::children(dictionary), nullptr);
+  dictionary.dictionary["children"].array.resize(2);
+  ASSERT_TRUE(OrbXMP::children(dictionary));
+  EXPECT_EQ(OrbXMP::children(dictionary)->array.size(), 2u);
+}
+
+}  // namespace

@@ -1,0 +1,241 @@
+// Photoshop image resource blocks: the APP13 checks, the block walk and its
+// stop rules, sorting, changes, serialisation, thumbnail and titles.
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "formats/OrbIPTCIIM.h"
+#include "formats/OrbPhotoshopFF.h"
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+Bytes operator+(Bytes a, const Bytes& b) {
+  a.insert(a.end(), b.begin(), b.end());
+  return a;
+}
+
+Bytes be32(std::uint32_t v) {
+  return {static_cast<std::uint8_t>(v >> 24), static_cast<std::uint8_t>(v >> 16), static_cast<std::uint8_t>(v >> 8),
+          static_cast<std::uint8_t>(v)};
+}
+
+// A block as Photoshop writes it: "8BIM", id, name field, size, data, pad.
+Bytes block(std::uint16_t id, const std::string& name, const Bytes& data) {
+  Bytes out = Bytes{'8', 'B', 'I', 'M', static_cast<std::uint8_t>(id >> 8), static_cast<std::uint8_t>(id)};
+  out.push_back(static_cast<std::uint8_t>(name.size()));
+  out.insert(out.end(), name.begin(), name.end());
+  if (out.size() % 2) out.push_back(0);
+  out = out + be32(static_cast<std::uint32_t>(data.size())) + data;
+  if (data.size() % 2) out.push_back(0);
+  return out;
+}
+
+Bytes app13(const Bytes& blocks) {
+  const auto length = static_cast<std::uint16_t>(blocks.size() + 16);
+  Bytes out{0xFF, 0xED, static_cast<std::uint8_t>(length >> 8), static_cast<std::uint8_t>(length)};
+  const std::string id("Photoshop 3.0");
+  out.insert(out.end(), id.begin(), id.end());
+  out.push_back(0);
+  return out + blocks;
+}
+
+OrbPhotoshopFF walk(const Bytes& bytes) { return OrbPhotoshopFF::photoshopFFWithIRBPtr(orb::ByteView(bytes)); }
+
+std::vector<std::uint16_t> ids(const OrbPhotoshopFF& ff) {
+  std::vector<std::uint16_t> out;
+  for (const auto& b : ff.IRBs()) out.push_back(b.irbID());
+  return out;
+}
+
+TEST(PhotoshopAPP13, ReadsOneIPTCBlockAndSerialisesIt) {
+  const Bytes iptcBlock = block(0x0404, "", {1, 2, 3, 4, 5});
+  ASSERT_EQ(iptcBlock.size(), 18u);
+  const Bytes segment = app13(iptcBlock);
+  const auto ff = OrbPhotoshopFF::photoshopFFWithAPP13SegmentPtr(orb::ByteView(segment));
+  ASSERT_TRUE(ff);
+  ASSERT_EQ(ids(*ff), (std::vector<std::uint16_t>{1028}));
+  EXPECT_EQ(ff->IRBs()[0].dataValue()->size(), 5u);
+  EXPECT_EQ(ff->IRBs()[0].signature(), 0x3842494Du);
+  EXPECT_EQ(ff->IRBs()[0].name(), std::nullopt);
+  EXPECT_EQ(ff->IRBs()[0].data(), iptcBlock);
+  EXPECT_EQ(ff->data(), iptcBlock);
+}
+
+TEST(PhotoshopAPP13, RefusesWrongMarkerOrIdentifierAndHonoursBothLengths) {
+  Bytes segment = app13(block(1028, "", {1, 2}) + block(1005, "", Bytes(16, 0)));
+  Bytes wrongMarker = segment;
+  wrongMarker[1] = 0xEC;
+  EXPECT_FALSE(OrbPhotoshopFF::photoshopFFWithAPP13SegmentPtr(orb::ByteView(wrongMarker)));
+  Bytes wrongId = segment;
+  wrongId[17] = ' ';  // the identifier's NUL
+  EXPECT_FALSE(OrbPhotoshopFF::photoshopFFWithAPP13SegmentPtr(orb::ByteView(wrongId)));
+  EXPECT_FALSE(OrbPhotoshopFF::photoshopFFWithAPP13SegmentPtr(orb::ByteView(segment.data(), 10)));
+
+  // The declared length ends the blocks before the second one.
+  Bytes shortLength = segment;
+  shortLength[2] = 0;
+  shortLength[3] = 16 + 14;
+  EXPECT_EQ(ids(*OrbPhotoshopFF::photoshopFFWithAPP13SegmentPtr(orb::ByteView(shortLength))),
+            (std::vector<std::uint16_t>{1028}));
+  // Fewer bytes available than declared: the available bytes win.
+  const auto cut = OrbPhotoshopFF::photoshopFFWithAPP13SegmentPtr(orb::ByteView(segment.data(), 18 + 14 + 10));
+  EXPECT_EQ(ids(*cut), (std::vector<std::uint16_t>{1028}));
+}
+
+TEST(PhotoshopWalk, StopRulesKeepBlocksBeforeTheBrokenOne) {
+  const Bytes good = block(1005, "", Bytes(16, 1));
+  struct Case {
+    const char* what;
+    Bytes bytes;
+    std::size_t kept;
+  };
+  const Case cases[] = {
+      {"empty", {}, 0},
+      {"data size past the end", good + Bytes{'8', 'B', 'I', 'M', 4, 4, 0, 0} + be32(100) + Bytes{1, 2}, 1},
+      {"name past the end", good + Bytes{'8', 'B', 'I', 'M', 4, 4, 9, 'a', 'b'}, 1},
+      {"header cut short", good + Bytes{'8', 'B', 'I'}, 1},
+      {"size field cut short", good + Bytes{'8', 'B', 'I', 'M', 4, 4, 0, 0, 0, 0}, 1},
+      {"id 0 dropped, walk goes on", block(0, "", {1}) + good, 1},
+      {"any signature accepted", Bytes{'A', 'B', 'C', 'D', 3, 0xED, 0, 0} + be32(0) + good, 2},
+  };
+  for (const Case& c : cases) EXPECT_EQ(walk(c.bytes).IRBs().size(), c.kept) << c.what;
+}
+
+TEST(PhotoshopWalk, NamesAndOddDataKeepTheirPadding) {
+  // Names of odd and even length, odd data: each block must start where the
+  // writer put it, or the ids after it come out wrong.
+  const Bytes bytes = block(1060, "abc", {1, 2, 3}) + block(1028, "ab", {9}) + block(1005, "", Bytes(16, 0));
+  EXPECT_EQ(block(1, "abc", {}).size(), 4u + 2 + 4 + 4);
+  EXPECT_EQ(block(1, "ab", {}).size(), 4u + 2 + 4 + 4);
+  const OrbPhotoshopFF ff = walk(bytes);
+  EXPECT_EQ(ids(ff), (std::vector<std::uint16_t>{1005, 1028, 1060}));
+  EXPECT_EQ(ff.imageResourceBlockWithIRBID(1060)->name(), "abc");
+  EXPECT_EQ(ff.imageResourceBlockWithIRBID(1028)->name(), "ab");
+  // Serialised in sorted order, every block as it was read.
+  EXPECT_EQ(ff.data(), block(1005, "", Bytes(16, 0)) + block(1028, "ab", {9}) + block(1060, "abc", {1, 2, 3}));
+}
+
+TEST(PhotoshopBlock, NameFieldSizeWrapsInEightBits) {
+  OrbImageResourceBlock b(0x3842494D, 1000, std::string(254, 'n'), Bytes{});
+  // (254 & 0xFE) + 2 = 256, which is 0 in 8 bits: no name field at all.
+  EXPECT_EQ(b.data().size(), 4u + 2 + 0 + 4);
+  b.setName(std::string(253, 'n'));
+  EXPECT_EQ(b.data().size(), 4u + 2 + 254 + 4);
+}
+
+TEST(PhotoshopList, ThumbnailPrefers1036AndFollowsSorting) {
+  const Bytes header(28, 7);
+  OrbPhotoshopFF ff = walk(block(1033, "", header + Bytes{1}) + block(1036, "", header + Bytes{2, 3}));
+  ASSERT_TRUE(ff.thumbIRB());
+  EXPECT_EQ(ff.thumbIRB()->irbID(), 1036);
+  EXPECT_EQ(ff.thumbnailData(), (Bytes{2, 3}));
+
+  ff.addImageResourceBlockWithSignature(0x3842494D, 1000, std::nullopt, Bytes{1});
+  ff.addImageResourceBlockWithSignature(0x3842494D, 0, std::nullopt, Bytes{1});  // refused
+  EXPECT_EQ(ids(ff), (std::vector<std::uint16_t>{1000, 1033, 1036}));
+  EXPECT_EQ(ff.thumbIRB()->irbID(), 1036);
+
+  ff.setThumbnailData(Bytes{4, 5, 6});
+  EXPECT_EQ(*ff.imageResourceBlockWithIRBID(1036)->dataValue(), (header + Bytes{4, 5, 6}));
+  EXPECT_EQ(*ff.imageResourceBlockWithIRBID(1033)->dataValue(), (header + Bytes{1}));
+
+  ff.rmoveIRBWithID(1036);
+  EXPECT_EQ(ff.thumbIRB(), nullptr);
+  ff.setUpThumbnail();
+  EXPECT_EQ(ff.thumbIRB()->irbID(), 1033);
+  EXPECT_FALSE(walk(block(1005, "", Bytes(16, 0))).thumbnailData());
+}
+
+TEST(PhotoshopList, ReplaceRemoveAndCopy) {
+  OrbPhotoshopFF ff = walk(block(1005, "", Bytes(16, 0)) + block(1028, "", {1}) + block(1028, "", {2}));
+  ff.replaceIRB(OrbImageResourceBlock(0, 1028, "new", Bytes{3}));
+  EXPECT_EQ(ff.IRBs()[1].name(), "new");
+  EXPECT_EQ(*ff.IRBs()[2].dataValue(), Bytes{2});
+  ff.replaceIRB(OrbImageResourceBlock(0, 2000, std::nullopt, Bytes{3}));  // no such id
+  EXPECT_EQ(ff.IRBs().size(), 3u);
+  ff.rmoveIRBWithID(1028);
+  ASSERT_EQ(ff.IRBs().size(), 2u);
+  EXPECT_EQ(*ff.IRBs()[1].dataValue(), Bytes{2});
+  ff.rmoveIRBWithID(4242);
+  EXPECT_EQ(ff.IRBs().size(), 2u);
+
+  const OrbPhotoshopFF copy = ff;
+  ff.rmoveIRBWithID(1005);
+  EXPECT_EQ(copy.IRBs().size(), 2u);
+}
+
+TEST(PhotoshopBlock, EqualityIgnoresSignatureAndOrderIsById) {
+  const OrbImageResourceBlock a(0x3842494D, 1028, "n", Bytes{1});
+  EXPECT_TRUE(a.isEqualToIRB(OrbImageResourceBlock(0, 1028, "n", Bytes{1})));
+  EXPECT_FALSE(a.isEqualToIRB(OrbImageResourceBlock(0, 1028, std::nullopt, Bytes{1})));
+  EXPECT_FALSE(a.isEqualToIRB(OrbImageResourceBlock(0, 1028, "n", Bytes{2})));
+  EXPECT_EQ(a.compare(OrbImageResourceBlock(0, 1029, "", Bytes{})), -1);
+  EXPECT_EQ(OrbImageResourceBlock(0, 0xFFFF, "", Bytes{}).compare(a), 1);
+}
+
+TEST(PhotoshopList, IPTCComesOnlyFromBlock1028) {
+  const Bytes iptc{0x1C, 2, 5, 0, 4, 'T', 'e', 's', 't'};
+  const OrbPhotoshopFF ff = walk(block(1028, "", iptc) + block(1005, "", Bytes(16, 0)));
+  const auto iim = ff.iptcIIM();
+  ASSERT_TRUE(iim);
+  ASSERT_EQ(iim->dataSets().size(), 1u);
+  EXPECT_EQ(iim->dataSets()[0]->stringValue(), "Test");
+  EXPECT_EQ(OrbPhotoshopFF::iptcIIMFromIRB(*ff.imageResourceBlockWithIRBID(1005)), nullptr);
+  EXPECT_EQ(walk(block(1005, "", Bytes(16, 0))).iptcIIM(), nullptr);
+}
+
+TEST(PhotoshopTitles, TableThenRangesThenUnknown) {
+  const std::pair<std::uint16_t, const char*> cases[] = {
+      {1000, "Info (Photoshop 2.0)"}, {1004, "Unknown"},       {1028, "IPTC IIM"},
+      {1058, "Exif"},                 {1059, "Exif"},          {1082, "Print Info"},
+      {2000, "Path Info"},            {2998, "Path Info"},     {2999, "Name of Clipping Path"},
+      {3000, "Unknown"},              {4000, "Plug-In resources"}, {4999, "Plug-In resources"},
+      {5000, "Unknown"},              {10000, "Print Flags Info"},
+  };
+  for (const auto& [id, title] : cases) EXPECT_EQ(OrbImageResourceBlock::titleWithID(id), title) << id;
+}
+
+TEST(PhotoshopDescriptions, DecodedLayoutsAndTheNameAndSizeFallback) {
+  const Bytes resolution = be32(72 << 16) + Bytes{0, 1, 0, 1} + be32(0x00488000) + Bytes{0, 2, 0, 9};
+  const Bytes pixelAspect = be32(1) + Bytes{0x3F, 0xF0, 0, 0, 0, 0, 0, 0};
+  struct Case {
+    std::uint16_t id;
+    std::optional<std::string> name;
+    Bytes data;
+    std::string text;
+  };
+  const Case cases[] = {
+      {1005, {}, resolution, "72ppi x 72.5ppc, Display width as inches, height as 9"},
+      {1005, {}, Bytes(15, 0), ", Data size: 15 bytes"},
+      {1011, {}, {1, 0, 1, 0, 0, 0, 1, 0}, "Labels:YES, Crop Marks:NO, Color Bars:YES, Registration Marks:NO, "
+                                           "Negative:NO, Flip:NO, Interpolate:YES, Caption:NO"},
+      {1010, {}, {0, 2, 0, 1, 0, 2, 0, 3, 0, 4}, "CMYK <1, 2, 3, 4>"},
+      {1024, {}, {0, 3}, "Index of target layer: 3"},
+      {1028, {}, {1, 2}, "IPTC Information Interchange Model"},
+      {1032, {}, be32(1) + be32(0x0A0B0C0D) + be32(0x00000240) + be32(2),
+       "[Version: 1]  [Grid Cycle: 0xABCD 0x00240]  [Guide Count: 2]"},
+      {1034, {}, {1}, "YES"},
+      {1035, {}, {'h', 't', 't', 'p'}, "http"},
+      {1044, {}, be32(4000000000u), "4000000000"},
+      {1041, {}, {1}, "Intentionally Untagged"},
+      {1050, {}, be32(7), "[Version: 7]"},
+      {1054, {}, be32(3), "List Count: 3"},
+      {1057, {}, be32(1) + Bytes{1} + be32(1) + Bytes{0, 'W'} + be32(2) + Bytes{0, 'R', 0, 'd'} + be32(1),
+       "[Version: 1] [Has Real Merged Data: YES] [Writer: W] [Reader: Rd] [File Version: 1]"},
+      {1061, {}, {0x0A, 0xFF, 0x00}, "0AFF00"},
+      {1064, {}, pixelAspect, "[Version: 1] [Aspect Ratio: 1.0]"},
+      {1069, {}, Bytes{0, 2} + be32(5) + be32(6), "ID Count 2: ID 5, 6"},
+      {1069, {}, Bytes{0, 2} + be32(5), ", Data size: 6 bytes"},
+      {10000, {}, Bytes{0, 1, 1, 0} + be32(3) + Bytes{0, 2}, "[Version: 1] [Center Crop Marks: YES] [Bleed Width: 3, Scale 2]"},
+      {1036, "thumb", Bytes(40, 0), "Name: thumb, Data size: 40 bytes"},
+      {1039, {}, {7}, ", Data size: 1 byte"},
+  };
+  for (const Case& c : cases)
+    EXPECT_EQ(OrbImageResourceBlock(0, c.id, c.name, c.data).stringValue(), c.text) << c.id;
+}
+
+}  // namespace
