@@ -1,0 +1,81 @@
+#include "formats/FileData.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace lum {
+
+namespace {
+
+FileStamp stampOf(const struct stat& st) {
+  return {static_cast<std::uint64_t>(st.st_size), static_cast<std::int64_t>(st.st_mtim.tv_sec),
+          static_cast<std::int64_t>(st.st_mtim.tv_nsec)};
+}
+
+ReadFailure failureFor(const std::filesystem::path& path, int error) {
+  ReadFailure f;
+  f.reason = std::strerror(error);
+  f.description = "The file \"" + path.filename().string() + "\" couldn't be opened.";
+  f.recoverySuggestion = error == EACCES ? "Check the file's permissions." : "Check that the file exists and is a regular file.";
+  return f;
+}
+
+// Closes the descriptor on every path out of mapFile().
+struct Descriptor {
+  int fd;
+  ~Descriptor() {
+    if (fd >= 0) ::close(fd);
+  }
+};
+
+}  // namespace
+
+std::optional<FileStamp> FileStamp::of(const std::filesystem::path& path) {
+  struct stat st {};
+  if (::stat(path.c_str(), &st) != 0) return std::nullopt;
+  return stampOf(st);
+}
+
+std::shared_ptr<const FileData> FileData::mapFile(const std::filesystem::path& path, ReadFailure* failure) {
+  const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
+  struct stat st {};
+  if (file.fd < 0 || ::fstat(file.fd, &st) != 0) {
+    if (failure) *failure = failureFor(path, errno);
+    return nullptr;
+  }
+  if (!S_ISREG(st.st_mode)) {
+    if (failure) *failure = failureFor(path, S_ISDIR(st.st_mode) ? EISDIR : EINVAL);
+    return nullptr;
+  }
+  auto data = std::shared_ptr<FileData>(new FileData());
+  data->stamp_ = stampOf(st);
+  if (st.st_size == 0) return data;  // nothing to map: an empty file
+  const auto size = static_cast<std::size_t>(st.st_size);
+  void* mapping = ::mmap(nullptr, size, PROT_READ, MAP_SHARED, file.fd, 0);
+  if (mapping == MAP_FAILED) {
+    if (failure) *failure = failureFor(path, errno);
+    return nullptr;
+  }
+  data->mapping_ = mapping;
+  data->data_ = static_cast<const std::uint8_t*>(mapping);
+  data->size_ = size;
+  return data;
+}
+
+std::shared_ptr<const FileData> FileData::fromBytes(std::vector<std::uint8_t> bytes) {
+  auto data = std::shared_ptr<FileData>(new FileData());
+  data->owned_ = std::move(bytes);
+  data->data_ = data->owned_.data();
+  data->size_ = data->owned_.size();
+  return data;
+}
+
+FileData::~FileData() {
+  if (mapping_) ::munmap(mapping_, size_);
+}
+
+}  // namespace lum

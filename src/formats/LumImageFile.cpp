@@ -1,0 +1,207 @@
+#include "formats/LumImageFile.h"
+
+#include <cstdio>
+
+#include "core/OrbTiff.h"
+#include "datetime/DateAdditions.h"
+#include "formats/ImageDecoder.h"
+#include "tools/Resizing.h"
+
+namespace {
+
+constexpr std::size_t kDateLength = 19;
+
+struct DateEntry {
+  std::uint16_t tag;
+  std::uint32_t ifdID;
+};
+
+constexpr DateEntry dateEntry(LumDateField field) {
+  switch (field) {
+    case LumDateField::DateTimeOriginal: return {0x9003, kExifIFDID};
+    case LumDateField::DateTimeDigitized: return {0x9004, kExifIFDID};
+    case LumDateField::DateTime: return {0x0132, kTIFFIFDID};
+  }
+  return {0, 0};
+}
+
+// All three sub-second entries live in the Exif IFD.
+constexpr std::uint16_t kSubSecTime = 0x9290;
+constexpr std::uint16_t kSubSecTimeOriginal = 0x9291;
+constexpr std::uint16_t kSubSecTimeDigitized = 0x9292;
+
+LumError lumError(int code, std::string reason) { return LumError{kLumErrorDomain, code, std::move(reason)}; }
+
+// The entry's value as text; nullopt when absent or not text.
+std::optional<std::string> textOf(const OrbTiff& tiff, std::uint16_t tag, std::uint32_t ifdID) {
+  const OrbIFDEntry* entry = tiff.entryWithIFDTag(tag, ifdID);
+  if (!entry) return std::nullopt;
+  const OrbDataObject object = entry->dataObject();
+  if (object.isText()) return object.text();
+  return object.stringValue();
+}
+
+// The first 19 characters of a date value when the date parser accepts
+// them; a shorter text is not a date.
+std::optional<std::string> validDate(const OrbTiff& tiff, LumDateField field) {
+  const DateEntry e = dateEntry(field);
+  const OrbIFDEntry* entry = tiff.entryWithIFDTag(e.tag, e.ifdID);
+  if (!entry) return std::nullopt;
+  const OrbDataObject object = entry->dataObject();
+  if (!object.isText() || object.text().size() < kDateLength) return std::nullopt;
+  std::string cut = object.text().substr(0, kDateLength);
+  if (!DateAdditions::dateWithDateTimeString(cut)) return std::nullopt;
+  return cut;
+}
+
+}  // namespace
+
+LumImageFile::LumImageFile() = default;
+
+LumImageFile::~LumImageFile() {
+  std::lock_guard lock(jobMutex_);
+  thumbnail_.reset();
+  if (operation_) operation_->store(true);
+  operation_.reset();
+}
+
+std::unique_ptr<LumImageFile> LumImageFile::imageFileWithURL(const std::filesystem::path& url, LumError* error) {
+  lum::ReadFailure failure;
+  auto data = lum::FileData::mapFile(url, &failure);
+  if (!data || data->empty()) {
+    if (error && !data)
+      std::fprintf(stderr, "LumImageFile - NSData error %s, %s, %s\n", failure.reason.c_str(),
+                   failure.description.c_str(), failure.recoverySuggestion.c_str());
+    if (error) *error = lumError(-2, data ? "the file is empty" : failure.reason);
+    return nullptr;
+  }
+  auto file = std::make_unique<LumImageFile>();
+  if (!file->searchImageDataAndMakeExifObject(data->bytes(), error)) return nullptr;
+  file->setImageData(std::move(data));
+  // The scan left the header's offset here; it is cleared on purpose. Date
+  // writes take the header location from the TIFF structure instead.
+  file->setTiffHeaderLocation(0);
+  file->setEdit(!file->noDateTimes());
+  return file;
+}
+
+bool LumImageFile::searchImageDataAndMakeExifObject(orb::ByteView data, LumError* error) {
+  const std::uint64_t fileSize = data.size();
+  std::optional<std::uint64_t> headerLocation;
+  switch (ImageDecoder::kindOf(data)) {
+    case ImageDecoder::Kind::TIFF:
+      headerLocation = 0;
+      break;
+    case ImageDecoder::Kind::JPEG: {
+      std::uint64_t location = 2;
+      if (pSearchJPEG(data, &location, fileSize)) headerLocation = location;
+      break;
+    }
+    case ImageDecoder::Kind::Unknown:
+      if (error) *error = lumError(-1, "not a JPEG or TIFF file");
+      return false;
+  }
+  // The decoder must accept the image: a file that only looks like a JPEG
+  // or TIFF is refused here.
+  const ImageDecoder::HeaderCheck check = ImageDecoder::checkHeader(data);
+  if (!check.ok) {
+    if (error) *error = lumError(-1, check.message);
+    return false;
+  }
+  if (headerLocation) {
+    const std::uint64_t location = *headerLocation;
+    tiff_ = OrbTiff::exifWithPtr(data, &location, fileSize);
+  }
+  return true;
+}
+
+void LumImageFile::setImageData(std::shared_ptr<const lum::FileData> data) {
+  imageData_ = std::move(data);
+  if (!tiff_) return;
+  // A date that is not valid leaves the field as it was.
+  if (auto d = validDate(*tiff_, LumDateField::DateTimeOriginal)) dateTimeOriginal_ = std::move(d);
+  if (auto d = validDate(*tiff_, LumDateField::DateTimeDigitized)) dateTimeDigitized_ = std::move(d);
+  if (auto d = validDate(*tiff_, LumDateField::DateTime)) dateTime_ = std::move(d);
+  subSecOriginal_ = textOf(*tiff_, kSubSecTimeOriginal, kExifIFDID);
+  subSecDigitized_ = textOf(*tiff_, kSubSecTimeDigitized, kExifIFDID);
+  subSec_ = textOf(*tiff_, kSubSecTime, kExifIFDID);
+}
+
+std::optional<lum::FileStamp> LumImageFile::stampAsOpened() const {
+  if (!imageData_) return std::nullopt;
+  return imageData_->stampAsOpened();
+}
+
+std::vector<std::string> LumImageFile::JFIFKeys() const {
+  std::vector<std::string> keys;
+  if (jfif_)
+    for (const auto& [key, value] : *jfif_) keys.push_back(key);
+  return keys;
+}
+
+std::optional<std::string> LumImageFile::JFIFValue(std::string_view key) const {
+  if (jfif_)
+    for (const auto& [k, value] : *jfif_)
+      if (k == key) return value;
+  return std::nullopt;
+}
+
+std::optional<std::uint64_t> LumImageFile::dateValueOffset(LumDateField field) const {
+  if (!tiff_) return std::nullopt;
+  const DateEntry e = dateEntry(field);
+  const OrbIFDEntry* entry = tiff_->entryWithIFDTag(e.tag, e.ifdID);
+  if (!entry || entry->byteCount() <= 4) return std::nullopt;
+  return std::uint64_t{entry->data()} + tiff_->tiffHeaderLocation();
+}
+
+const std::optional<std::string>& LumImageFile::originalString(LumDateField field) const {
+  switch (field) {
+    case LumDateField::DateTimeOriginal: return dateTimeOriginal_;
+    case LumDateField::DateTimeDigitized: return dateTimeDigitized_;
+    case LumDateField::DateTime: break;
+  }
+  return dateTime_;
+}
+
+bool LumImageFile::noDateTimes() const { return !dateTimeOriginal_ && !dateTimeDigitized_ && !dateTime_; }
+
+std::optional<std::filesystem::path> LumImageFile::fileURL() const {
+  if (!owner_) return std::nullopt;
+  return owner_->fileURL();
+}
+
+std::shared_ptr<const lum::Bitmap> LumImageFile::thumbnail() const {
+  std::lock_guard lock(jobMutex_);
+  return thumbnail_;
+}
+
+void LumImageFile::setThumbnail(std::shared_ptr<const lum::Bitmap> thumbnail) {
+  std::lock_guard lock(jobMutex_);
+  thumbnail_ = std::move(thumbnail);
+}
+
+LumImageFile::CancelFlag LumImageFile::operation() const {
+  std::lock_guard lock(jobMutex_);
+  return operation_;
+}
+
+void LumImageFile::setOperation(CancelFlag operation) {
+  std::lock_guard lock(jobMutex_);
+  operation_ = std::move(operation);
+}
+
+void LumImageFile::makeThumbnail() {
+  if (thumbnail()) return;
+  const auto url = fileURL();
+  if (!url) return;
+  // The bytes as opened are the file's bytes; reading them again from disk
+  // would only cost time.
+  auto data = imageData_ ? imageData_ : lum::FileData::mapFile(*url);
+  std::shared_ptr<const lum::Bitmap> result;
+  if (data) {
+    const auto box = static_cast<int>(kThumbnailBox);
+    result = Resizing::resizedBitmapFromBitmap(ImageDecoder::decodeForBox(data->bytes(), box, box), false,
+                                               kThumbnailBox, kThumbnailBox);
+  }
+  setThumbnail(result ? result : errorImage());
+}

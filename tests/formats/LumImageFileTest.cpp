@@ -1,0 +1,202 @@
+// Opening image files: classification, error codes, original dates, the
+// edit flag and thumbnails.
+#include <gtest/gtest.h>
+#include <tiffio.h>
+
+#include "core/OrbTiff.h"
+#include "formats/ImageFileTestSupport.h"
+
+namespace {
+
+using lumtest::AsciiEntry;
+using lumtest::Bytes;
+using lumtest::JpegBuilder;
+
+std::string nul(std::string s) { return s + '\0'; }
+
+TEST(LumImageFileOpen, RefusedFilesGiveTheirCodes) {
+  Bytes png = {0x89, 'P', 'N', 'G', 0x0D, 0x0A, 0x1A, 0x0A};
+  png.resize(64, 0);
+  Bytes fakeJpeg = {0xFF, 0xD8, 0xFF, 0xE0, 0x00, 0x10, 'J', 'F', 'I', 'F'};
+  fakeJpeg.resize(200, 0x55);
+  const Bytes fakeTiff = {'I', 'I', 42, 0, 8, 0, 0, 0, 0, 0};  // an IFD with no entries: no size
+  const struct {
+    const char* name;
+    Bytes bytes;
+    int code;
+  } cases[] = {
+      {"empty file", {}, -2},
+      {"one byte", {0xFF}, -1},
+      {"PNG", png, -1},
+      {"FF D8 that does not decode", fakeJpeg, -1},
+      {"TIFF header without an image", fakeTiff, -1},
+      {"JPEG with Exif but no image", JpegBuilder().exif(lumtest::exifTiff({}, {})).build(false), -1},
+  };
+  for (const auto& c : cases) {
+    const auto o = lumtest::openBytes(c.bytes);
+    EXPECT_EQ(o.file, nullptr) << c.name;
+    EXPECT_EQ(o.error.domain, "LumErrorDomain") << c.name;
+    EXPECT_EQ(o.error.code, c.code) << c.name;
+  }
+}
+
+TEST(LumImageFileOpen, UnreadableFileIsMinusTwoAndLogged) {
+  LumError error;
+  testing::internal::CaptureStderr();
+  const auto file = LumImageFile::imageFileWithURL("/nonexistent/lumidate/photo.jpg", &error);
+  const std::string log = testing::internal::GetCapturedStderr();
+  EXPECT_EQ(file, nullptr);
+  EXPECT_EQ(error.code, -2);
+  EXPECT_EQ(log.rfind("LumImageFile - NSData error ", 0), 0u) << log;
+  // Without an error place nothing is logged.
+  testing::internal::CaptureStderr();
+  EXPECT_EQ(LumImageFile::imageFileWithURL("/nonexistent/lumidate/photo.jpg", nullptr), nullptr);
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST(LumImageFileOpen, JpegWithJfifAndExif) {
+  const Bytes tiff = lumtest::exifTiff({{0x0132, nul("2021:02:03 04:05:06")}},
+                                       {{0x9003, nul("2020:01:02 03:04:05")}, {0x9291, nul("  5")}});
+  const auto o = lumtest::openBytes(JpegBuilder().jfif(1, 1).exif(tiff).build());
+  ASSERT_TRUE(o.file) << o.error.reason;
+  const LumImageFile& f = *o.file;
+  EXPECT_EQ(f.tiffHeaderLocation(), 0u);  // cleared after the scan on purpose
+  ASSERT_TRUE(f.tiff());
+  EXPECT_EQ(f.tiff()->tiffHeaderLocation(), 30u);
+  EXPECT_EQ(f.JFIFSegmentRange(), (LumRange{2, 18}));
+  EXPECT_EQ(f.originalDateTimeOriginalString(), "2020:01:02 03:04:05");
+  EXPECT_EQ(f.originalDateTimeDigitizedString(), std::nullopt);
+  EXPECT_EQ(f.originalDateTimeString(), "2021:02:03 04:05:06");
+  EXPECT_EQ(f.originalSubSecDateTimeOriginalString(), "  5");  // blanks kept
+  EXPECT_EQ(f.originalSubSecDateTimeString(), std::nullopt);
+  EXPECT_TRUE(f.isEdit());
+  EXPECT_FALSE(f.noDateTimes());
+  // The value offsets point at the date characters in the file.
+  const auto offset = f.dateValueOffset(LumDateField::DateTimeOriginal);
+  ASSERT_TRUE(offset);
+  const auto text = f.imageData()->bytes().bytes(*offset, 19);
+  ASSERT_TRUE(text);
+  EXPECT_EQ(std::string(text->begin(), text->end()), "2020:01:02 03:04:05");
+  EXPECT_FALSE(f.dateValueOffset(LumDateField::DateTimeDigitized));
+  EXPECT_EQ(f.valueForKey("Edited"), &f);
+  EXPECT_EQ(f.valueForKey("anything"), &f);
+}
+
+TEST(LumImageFileOpen, WhichDateTextsAreKept) {
+  const struct {
+    std::string value;
+    std::optional<std::string> kept;
+  } cases[] = {
+      {nul("2020:01:02 03:04:05"), "2020:01:02 03:04:05"},
+      {"2020:01:02 03:04:05", "2020:01:02 03:04:05"},                  // count 19 without NUL
+      {"2020:01:02 03:04:05+09:00", "2020:01:02 03:04:05"},            // first 19 characters
+      {nul("2020:01:02 03:04"), std::nullopt},                         // shorter than 19
+      {nul("                   "), std::nullopt},                      // blanks are rejected
+      {nul("2020:01:0x 03:04:05"), std::nullopt},
+      {nul("0000:00:00 00:00:00"), "0000:00:00 00:00:00"},             // lenient parser
+      {std::string("2020:01:02 03:04:05XYZ", 22), "2020:01:02 03:04:05"},  // longer value cut to 20 bytes
+  };
+  for (const auto& c : cases) {
+    const auto o = lumtest::openBytes(JpegBuilder().exif(lumtest::exifTiff({}, {{0x9004, c.value}})).build());
+    ASSERT_TRUE(o.file) << c.value;
+    EXPECT_EQ(o.file->originalDateTimeDigitizedString(), c.kept) << c.value;
+    EXPECT_EQ(o.file->isEdit(), c.kept.has_value()) << c.value;
+  }
+}
+
+TEST(LumImageFileOpen, FilesWithoutDatesOpenNotEditable) {
+  const struct {
+    const char* name;
+    Bytes bytes;
+    bool hasTiff;
+  } cases[] = {
+      {"JPEG without APP1", JpegBuilder().jfif(1, 2).build(), false},
+      {"XMP before Exif", JpegBuilder().xmp().exif(lumtest::exifTiff({{0x0132, nul("2020:01:02 03:04:05")}}, {})).build(),
+       false},
+      {"Exif without dates", JpegBuilder().exif(lumtest::exifTiff({{0x010F, nul("Maker")}}, {})).build(), true},
+      {"rejected dates only", JpegBuilder().exif(lumtest::exifTiff({{0x0132, nul("yesterday at noon..")}}, {})).build(),
+       true},
+  };
+  for (const auto& c : cases) {
+    const auto o = lumtest::openBytes(c.bytes);
+    ASSERT_TRUE(o.file) << c.name;
+    EXPECT_EQ(o.file->tiff() != nullptr, c.hasTiff) << c.name;
+    EXPECT_TRUE(o.file->noDateTimes()) << c.name;
+    EXPECT_FALSE(o.file->isEdit()) << c.name;
+  }
+}
+
+TEST(LumImageFileOpen, TiffHeaderAtZero) {
+  // libtiff writes the image; the header is always at 0 for a TIFF.
+  const auto path = std::filesystem::temp_directory_path() / ("lum-tiny-" + std::to_string(::getpid()) + ".tif");
+  {
+    TIFF* t = TIFFOpen(path.c_str(), "w");
+    ASSERT_TRUE(t);
+    TIFFSetField(t, TIFFTAG_IMAGEWIDTH, 8);
+    TIFFSetField(t, TIFFTAG_IMAGELENGTH, 4);
+    TIFFSetField(t, TIFFTAG_BITSPERSAMPLE, 8);
+    TIFFSetField(t, TIFFTAG_SAMPLESPERPIXEL, 3);
+    TIFFSetField(t, TIFFTAG_PHOTOMETRIC, PHOTOMETRIC_RGB);
+    TIFFSetField(t, TIFFTAG_PLANARCONFIG, PLANARCONFIG_CONTIG);
+    TIFFSetField(t, TIFFTAG_DATETIME, "2019:12:31 23:59:59");
+    std::vector<std::uint8_t> row(24, 200);
+    for (std::uint32_t y = 0; y < 4; ++y) TIFFWriteScanline(t, row.data(), y, 0);
+    TIFFClose(t);
+  }
+  LumError error;
+  const auto file = LumImageFile::imageFileWithURL(path, &error);
+  std::filesystem::remove(path);
+  ASSERT_TRUE(file) << error.reason;
+  ASSERT_TRUE(file->tiff());
+  EXPECT_EQ(file->tiff()->tiffHeaderLocation(), 0u);
+  EXPECT_FALSE(file->JFIFSegmentRange());
+  EXPECT_FALSE(file->exifSegmentRange());
+  EXPECT_EQ(file->originalDateTimeString(), "2019:12:31 23:59:59");
+  EXPECT_TRUE(file->isEdit());
+
+  lumtest::PathOwner owner;
+  owner.path = path;
+  file->setOwnerDocument(&owner);
+  file->makeThumbnail();
+  ASSERT_TRUE(file->thumbnail());
+  EXPECT_EQ(file->thumbnail()->width, 8);  // never enlarged
+  EXPECT_EQ(file->thumbnail()->height, 4);
+}
+
+TEST(LumImageFileThumbnail, FitsTheBoxAndNeedsAnOwner) {
+  const Bytes big = [] {
+    Bytes out = {0xFF, 0xD8};
+    const Bytes body = lumtest::jpegBody(lumtest::encodeJpeg(640, 480));
+    out.insert(out.end(), body.begin(), body.end());
+    return out;
+  }();
+  auto o = lumtest::openBytes(big);
+  ASSERT_TRUE(o.file) << o.error.reason;
+  o.file->makeThumbnail();
+  EXPECT_FALSE(o.file->thumbnail());  // no owner, no path: nothing made
+  lumtest::PathOwner owner;
+  owner.path = "/the/file/as/opened.jpg";
+  o.file->setOwnerDocument(&owner);
+  o.file->makeThumbnail();
+  const auto thumb = o.file->thumbnail();
+  ASSERT_TRUE(thumb);
+  EXPECT_EQ(thumb->width, 150);
+  EXPECT_EQ(thumb->height, 113);
+  EXPECT_EQ(thumb->bitmapInfo, 1u);
+  EXPECT_EQ(thumb->bytesPerRow, 600);
+}
+
+TEST(LumImageFileThumbnail, ErrorImageIsTheFramedPlaceholder) {
+  const auto image = LumImageFile::errorImage();
+  ASSERT_TRUE(image);
+  EXPECT_EQ(image->width, 100);
+  EXPECT_EQ(image->height, 60);
+  ASSERT_TRUE(image->isConsistent());
+  const auto alphaAt = [&](int x, int y) { return image->pixels[static_cast<std::size_t>(y) * image->bytesPerRow + x * 4 + 3]; };
+  EXPECT_EQ(alphaAt(50, 4), 255);   // top edge of the frame
+  EXPECT_EQ(alphaAt(1, 1), 0);      // outside it
+  EXPECT_EQ(alphaAt(4, 4), 0);      // the rounded corner leaves the corner pixel clear
+  EXPECT_EQ(LumImageFile::errorImage(), image);
+}
+
+}  // namespace

@@ -1,0 +1,106 @@
+// Every real camera file opens (or fails) exactly as its design record in
+// expected.json says: error code, TIFF header, kept dates, sub-second texts,
+// date value offsets, JFIF fields and segment ranges.
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "core/OrbTiff.h"
+#include "formats/LumImageFile.h"
+#include "support/TestData.h"
+
+namespace {
+
+using nlohmann::json;
+
+json textOrNull(const std::optional<std::string>& s) { return s ? json(*s) : json(nullptr); }
+
+json rangeOrNull(const std::optional<LumRange>& r) {
+  return r ? json::array({r->location, r->length}) : json(nullptr);
+}
+
+json jfifOrNull(const LumImageFile& f) {
+  if (!f.JFIF()) return nullptr;
+  json j = json::object();
+  for (const auto& [key, value] : *f.JFIF()) j[key] = value;
+  return j;
+}
+
+json dateOffsets(const LumImageFile& f) {
+  json j = json::object();
+  const std::pair<const char*, LumDateField> fields[] = {{"DateTimeOriginal", LumDateField::DateTimeOriginal},
+                                                        {"DateTimeDigitized", LumDateField::DateTimeDigitized},
+                                                        {"DateTime", LumDateField::DateTime}};
+  for (const auto& [name, field] : fields)
+    if (const auto offset = f.dateValueOffset(field)) j[name] = *offset;
+  return j;
+}
+
+// What the model shows for a file, in the shape of a design record.
+json shown(const LumImageFile& f) {
+  return {
+      {"tiffHeaderLocation", f.tiff() ? json(f.tiff()->tiffHeaderLocation()) : json(nullptr)},
+      {"DateTimeOriginal", textOrNull(f.originalDateTimeOriginalString())},
+      {"DateTimeDigitized", textOrNull(f.originalDateTimeDigitizedString())},
+      {"DateTime", textOrNull(f.originalDateTimeString())},
+      {"SubSecTimeOriginal", textOrNull(f.originalSubSecDateTimeOriginalString())},
+      {"SubSecTimeDigitized", textOrNull(f.originalSubSecDateTimeDigitizedString())},
+      {"SubSecTime", textOrNull(f.originalSubSecDateTimeString())},
+      {"editable", f.isEdit()},
+      {"date_offsets", dateOffsets(f)},
+      {"jfif", jfifOrNull(f)},
+      {"JFIFSegmentRange", rangeOrNull(f.JFIFSegmentRange())},
+      {"exifSegmentRange", rangeOrNull(f.exifSegmentRange())},
+  };
+}
+
+TEST(RealFiles, EveryFileAgreesWithItsDesignRecord) {
+  LUMTEST_REQUIRE_REAL_DATA();
+  const auto names = lumtest::realFileNames();
+  ASSERT_FALSE(names.empty());
+  for (const std::string& name : names) {
+    SCOPED_TRACE(name);
+    const json& design = lumtest::expectedFor(name).at("design");
+    LumError error;
+    const auto file = LumImageFile::imageFileWithURL(*lumtest::realDataDir() / name, &error);
+    if (!design.at("opens").get<bool>()) {
+      EXPECT_EQ(file, nullptr);
+      EXPECT_EQ(error.domain, "LumErrorDomain");
+      EXPECT_EQ(json(error.code), design.at("error_code"));
+      continue;
+    }
+    ASSERT_TRUE(file) << error.code << " " << error.reason;
+    const json got = shown(*file);
+    std::set<std::string> skipped;
+    for (const auto& field : design.at("ambiguous")) skipped.insert(field.is_string() ? field.get<std::string>() : "");
+    for (const auto& [key, value] : got.items()) {
+      if (!skipped.count(key)) {
+        EXPECT_EQ(value, design.at(key)) << key;
+      }
+    }
+  }
+}
+
+TEST(RealFiles, ThumbnailsFitTheBox) {
+  LUMTEST_REQUIRE_REAL_DATA();
+  struct Owner : LumImageFileOwner {
+    std::filesystem::path path;
+    std::optional<std::filesystem::path> fileURL() const override { return path; }
+  };
+  for (const std::string& name : lumtest::realFileNames()) {
+    SCOPED_TRACE(name);
+    Owner owner;
+    owner.path = *lumtest::realDataDir() / name;
+    const auto file = LumImageFile::imageFileWithURL(owner.path, nullptr);
+    if (!file) continue;
+    file->setOwnerDocument(&owner);
+    file->makeThumbnail();
+    const auto thumb = file->thumbnail();
+    ASSERT_TRUE(thumb);
+    EXPECT_LE(thumb->width, 150);
+    EXPECT_LE(thumb->height, 150);
+    EXPECT_TRUE(thumb->isConsistent());
+  }
+}
+
+}  // namespace

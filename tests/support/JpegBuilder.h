@@ -1,0 +1,176 @@
+#pragma once
+// Builds small JPEG files for tests: libjpeg-turbo encodes a real image, and
+// the APP segments in front of it are put together by hand, so a test says
+// exactly which bytes the scan sees (JFIF, Exif, XMP, odd lengths).
+//
+//   auto bytes = lumtest::JpegBuilder().jfif(1, 1).exif(lumtest::exifTiff(...)).build();
+//
+// Also here: exifTiff(), a minimal TIFF block with ASCII entries in IFD0 and
+// the Exif IFD, enough to carry dates and sub-second texts.
+
+#include <turbojpeg.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lumtest {
+
+using Bytes = std::vector<std::uint8_t>;
+
+// A w x h JPEG as libjpeg-turbo writes it (SOI, its own JFIF APP0, ...).
+inline Bytes encodeJpeg(int width = 16, int height = 8, bool gray = false) {
+  const int channels = gray ? 1 : 3;
+  Bytes pixels(static_cast<std::size_t>(width * height * channels));
+  for (std::size_t i = 0; i < pixels.size(); ++i) pixels[i] = static_cast<std::uint8_t>((i * 37) & 0xFF);
+  tjhandle handle = tjInitCompress();
+  unsigned char* out = nullptr;
+  unsigned long size = 0;
+  const int rc = tjCompress2(handle, pixels.data(), width, 0, height, gray ? TJPF_GRAY : TJPF_RGB, &out, &size,
+                             gray ? TJSAMP_GRAY : TJSAMP_420, 90, 0);
+  Bytes result;
+  if (rc == 0) result.assign(out, out + size);
+  tjFree(out);
+  tjDestroy(handle);
+  if (rc != 0) throw std::runtime_error("tjCompress2 failed");
+  return result;
+}
+
+// The encoded image without SOI and without the APPn segments that follow
+// it: what comes after the hand-built segments.
+inline Bytes jpegBody(const Bytes& jpeg) {
+  std::size_t pos = 2;
+  while (pos + 4 <= jpeg.size() && jpeg[pos] == 0xFF && jpeg[pos + 1] >= 0xE0 && jpeg[pos + 1] <= 0xEF)
+    pos += 2 + ((static_cast<std::size_t>(jpeg[pos + 2]) << 8) | jpeg[pos + 3]);
+  return Bytes(jpeg.begin() + static_cast<std::ptrdiff_t>(pos), jpeg.end());
+}
+
+inline void appendBE16(Bytes& b, std::uint32_t v) {
+  b.push_back(static_cast<std::uint8_t>(v >> 8));
+  b.push_back(static_cast<std::uint8_t>(v));
+}
+
+class JpegBuilder {
+ public:
+  // A segment with the given marker byte (0xE0 for APP0 ...); its length
+  // field is the payload size + 2 unless lengthOverride is given.
+  JpegBuilder& segment(std::uint8_t marker, const Bytes& payload, int lengthOverride = -1) {
+    segments_.push_back(0xFF);
+    segments_.push_back(marker);
+    appendBE16(segments_, lengthOverride >= 0 ? static_cast<std::uint32_t>(lengthOverride)
+                                              : static_cast<std::uint32_t>(payload.size() + 2));
+    segments_.insert(segments_.end(), payload.begin(), payload.end());
+    return *this;
+  }
+
+  // A JFIF APP0 (16-byte length without thumbnail pixels).
+  JpegBuilder& jfif(std::uint8_t major, std::uint8_t minor, std::uint8_t unit = 1, std::uint16_t xDensity = 72,
+                    std::uint16_t yDensity = 72, std::uint8_t thumbWidth = 0, std::uint8_t thumbHeight = 0,
+                    const Bytes& thumbPixels = {}) {
+    Bytes p = {'J', 'F', 'I', 'F', 0, major, minor, unit};
+    appendBE16(p, xDensity);
+    appendBE16(p, yDensity);
+    p.push_back(thumbWidth);
+    p.push_back(thumbHeight);
+    p.insert(p.end(), thumbPixels.begin(), thumbPixels.end());
+    return segment(0xE0, p);
+  }
+
+  // An Exif APP1: "Exif", two zero bytes, then the TIFF block.
+  JpegBuilder& exif(const Bytes& tiff) {
+    Bytes p = {'E', 'x', 'i', 'f', 0, 0};
+    p.insert(p.end(), tiff.begin(), tiff.end());
+    return segment(0xE1, p);
+  }
+
+  // An XMP APP1 packet.
+  JpegBuilder& xmp(std::string_view packet = "<x:xmpmeta/>") {
+    Bytes p;
+    for (const char c : std::string_view("http://ns.adobe.com/xap/1.0/")) p.push_back(static_cast<std::uint8_t>(c));
+    p.push_back(0);
+    p.insert(p.end(), packet.begin(), packet.end());
+    return segment(0xE1, p);
+  }
+
+  // Raw bytes after the segments so far.
+  JpegBuilder& raw(const Bytes& bytes) {
+    segments_.insert(segments_.end(), bytes.begin(), bytes.end());
+    return *this;
+  }
+
+  // SOI, the segments, then the encoded image (unless withImage is false).
+  Bytes build(bool withImage = true) const {
+    Bytes out = {0xFF, 0xD8};
+    out.insert(out.end(), segments_.begin(), segments_.end());
+    if (withImage) {
+      const Bytes body = jpegBody(encodeJpeg());
+      out.insert(out.end(), body.begin(), body.end());
+    }
+    return out;
+  }
+
+ private:
+  Bytes segments_;
+};
+
+// One ASCII entry: tag and its raw value bytes (the count is their length,
+// so a date is 19 characters plus the NUL the test adds or leaves out).
+struct AsciiEntry {
+  std::uint16_t tag;
+  std::string value;
+};
+
+// A TIFF block: header, IFD0 with its entries and (when the Exif list is
+// not empty) an Exif IFD pointer, the Exif IFD, then all values out of line.
+// Values of 4 bytes or fewer stay inline, as TIFF wants.
+inline Bytes exifTiff(const std::vector<AsciiEntry>& ifd0, const std::vector<AsciiEntry>& exif,
+                      bool littleEndian = true) {
+  Bytes b;
+  const auto put16 = [&](std::size_t at, std::uint32_t v) {
+    b[at + (littleEndian ? 0 : 1)] = static_cast<std::uint8_t>(v);
+    b[at + (littleEndian ? 1 : 0)] = static_cast<std::uint8_t>(v >> 8);
+  };
+  const auto put32 = [&](std::size_t at, std::uint32_t v) {
+    for (int i = 0; i < 4; ++i)
+      b[at + static_cast<std::size_t>(littleEndian ? i : 3 - i)] = static_cast<std::uint8_t>(v >> (8 * i));
+  };
+  const std::size_t n0 = ifd0.size() + (exif.empty() ? 0 : 1);
+  const std::size_t ifd0At = 8, exifAt = ifd0At + 2 + 12 * n0 + 4;
+  const std::size_t valuesAt = exifAt + (exif.empty() ? 0 : 2 + 12 * exif.size() + 4);
+  b.assign(valuesAt, 0);
+  b[0] = b[1] = littleEndian ? 'I' : 'M';
+  put16(2, 42);
+  put32(4, static_cast<std::uint32_t>(ifd0At));
+  const auto writeIFD = [&](std::size_t at, std::vector<AsciiEntry> entries, bool withPointer) {
+    if (withPointer) entries.push_back({0x8769, {}});
+    std::sort(entries.begin(), entries.end(), [](const AsciiEntry& x, const AsciiEntry& y) { return x.tag < y.tag; });
+    put16(at, static_cast<std::uint32_t>(entries.size()));
+    std::size_t e = at + 2;
+    for (const AsciiEntry& entry : entries) {
+      put16(e, entry.tag);
+      if (entry.tag == 0x8769 && withPointer) {
+        put16(e + 2, 4);
+        put32(e + 4, 1);
+        put32(e + 8, static_cast<std::uint32_t>(exifAt));
+      } else {
+        put16(e + 2, 2);
+        put32(e + 4, static_cast<std::uint32_t>(entry.value.size()));
+        if (entry.value.size() <= 4) {
+          for (std::size_t i = 0; i < entry.value.size(); ++i) b[e + 8 + i] = static_cast<std::uint8_t>(entry.value[i]);
+        } else {
+          put32(e + 8, static_cast<std::uint32_t>(b.size()));
+          b.insert(b.end(), entry.value.begin(), entry.value.end());
+        }
+      }
+      e += 12;
+    }
+  };
+  writeIFD(ifd0At, ifd0, !exif.empty());
+  if (!exif.empty()) writeIFD(exifAt, exif, false);
+  return b;
+}
+
+}  // namespace lumtest
