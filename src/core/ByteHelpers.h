@@ -18,6 +18,15 @@ namespace ByteHelpers {
 bool readUInt16BE(orb::ByteView block, std::uint64_t* pos, std::uint16_t* result);
 bool readUInt32BE(orb::ByteView block, std::uint64_t* pos, std::uint32_t* result);
 bool readUInt64BE(orb::ByteView block, std::uint64_t* pos, std::uint64_t* result);
+inline bool readUInt16BE(std::span<const std::uint8_t> block, std::uint64_t* pos, std::uint16_t* result) {
+  return readUInt16BE(orb::ByteView(block), pos, result);
+}
+inline bool readUInt32BE(std::span<const std::uint8_t> block, std::uint64_t* pos, std::uint32_t* result) {
+  return readUInt32BE(orb::ByteView(block), pos, result);
+}
+inline bool readUInt64BE(std::span<const std::uint8_t> block, std::uint64_t* pos, std::uint64_t* result) {
+  return readUInt64BE(orb::ByteView(block), pos, result);
+}
 
 bool writeUInt16BE(std::span<std::uint8_t> block, std::uint64_t* pos, std::uint16_t value);
 bool writeUInt32BE(std::span<std::uint8_t> block, std::uint64_t* pos, std::uint32_t value);

@@ -42,31 +42,39 @@ std::vector<std::uint8_t> dataWith2ByteValue(std::uint16_t value) { return bigEn
 std::vector<std::uint8_t> dataWith4ByteValue(std::uint32_t value) { return bigEndianBytes(value); }
 std::vector<std::uint8_t> dataWith8ByteValue(std::uint64_t value) { return bigEndianBytes(value); }
 
-std::uint8_t uInt8ValueAtLocation(orb::ByteView data, std::uint64_t location) { return data.u8(location).value_or(0); }
-std::uint16_t uInt16ValueAtLocation(orb::ByteView data, std::uint64_t location) { return data.u16(location).value_or(0); }
-std::uint32_t uInt32ValueAtLocation(orb::ByteView data, std::uint64_t location) { return data.u32(location).value_or(0); }
-std::uint64_t uInt64ValueAtLocation(orb::ByteView data, std::uint64_t location) { return data.u64(location).value_or(0); }
-
-std::optional<std::vector<std::uint8_t>> readDataWithRange(orb::ByteView data, OrbRange range) {
-  const auto bytes = data.bytes(range.location, range.length);
-  if (!bytes) return std::nullopt;
-  return std::vector<std::uint8_t>(bytes->begin(), bytes->end());
+std::uint8_t uInt8ValueAtLocation(std::span<const std::uint8_t> bytes, std::uint64_t location) {
+  return orb::ByteView(bytes).u8(location).value_or(0);
+}
+std::uint16_t uInt16ValueAtLocation(std::span<const std::uint8_t> bytes, std::uint64_t location) {
+  return orb::ByteView(bytes).u16(location).value_or(0);
+}
+std::uint32_t uInt32ValueAtLocation(std::span<const std::uint8_t> bytes, std::uint64_t location) {
+  return orb::ByteView(bytes).u32(location).value_or(0);
+}
+std::uint64_t uInt64ValueAtLocation(std::span<const std::uint8_t> bytes, std::uint64_t location) {
+  return orb::ByteView(bytes).u64(location).value_or(0);
 }
 
-OrbRange rengeUntilNullFromLocation(orb::ByteView data, std::uint64_t location) {
-  if (location >= data.size()) return {location, 0};
-  const orb::ByteView rest = data.tail(location);
+std::optional<std::vector<std::uint8_t>> readDataWithRange(std::span<const std::uint8_t> bytes, OrbRange range) {
+  const auto range_ = orb::ByteView(bytes).bytes(range.location, range.length);
+  if (!range_) return std::nullopt;
+  return std::vector<std::uint8_t>(range_->begin(), range_->end());
+}
+
+OrbRange rengeUntilNullFromLocation(std::span<const std::uint8_t> bytes, std::uint64_t location) {
+  if (location >= bytes.size()) return {location, 0};
+  const orb::ByteView rest = orb::ByteView(bytes).tail(location);
   const void* zero = std::memchr(rest.data(), 0, rest.size());
   const std::uint64_t length =
       zero ? static_cast<std::uint64_t>(static_cast<const std::uint8_t*>(zero) - rest.data()) + 1 : rest.size();
   return {location, length};
 }
 
-std::uint32_t CRC_32(orb::ByteView data) {
-  if (data.empty()) return 0;
+std::uint32_t CRC_32(std::span<const std::uint8_t> bytes) {
+  if (bytes.empty()) return 0;
   const auto& table = crcTable();
   std::uint32_t crc = 0xFFFFFFFFu;
-  for (std::size_t i = 0; i < data.size(); ++i) crc = table[(crc ^ data.data()[i]) & 0xFF] ^ (crc >> 8);
+  for (std::uint8_t b : bytes) crc = table[(crc ^ b) & 0xFF] ^ (crc >> 8);
   return crc ^ 0xFFFFFFFFu;
 }
 

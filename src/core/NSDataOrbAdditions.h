@@ -27,25 +27,25 @@ std::vector<std::uint8_t> dataWith2ByteValue(std::uint16_t value);
 std::vector<std::uint8_t> dataWith4ByteValue(std::uint32_t value);
 std::vector<std::uint8_t> dataWith8ByteValue(std::uint64_t value);
 
-std::uint8_t uInt8ValueAtLocation(orb::ByteView data, std::uint64_t location);
-std::uint16_t uInt16ValueAtLocation(orb::ByteView data, std::uint64_t location);
-std::uint32_t uInt32ValueAtLocation(orb::ByteView data, std::uint64_t location);
-std::uint64_t uInt64ValueAtLocation(orb::ByteView data, std::uint64_t location);
-inline std::uint8_t uInt8Value(orb::ByteView data) { return uInt8ValueAtLocation(data, 0); }
-inline std::uint16_t uInt16Value(orb::ByteView data) { return uInt16ValueAtLocation(data, 0); }
-inline std::uint32_t uInt32Value(orb::ByteView data) { return uInt32ValueAtLocation(data, 0); }
-inline std::uint64_t uInt64Value(orb::ByteView data) { return uInt64ValueAtLocation(data, 0); }
+std::uint8_t uInt8ValueAtLocation(std::span<const std::uint8_t> data, std::uint64_t location);
+std::uint16_t uInt16ValueAtLocation(std::span<const std::uint8_t> data, std::uint64_t location);
+std::uint32_t uInt32ValueAtLocation(std::span<const std::uint8_t> data, std::uint64_t location);
+std::uint64_t uInt64ValueAtLocation(std::span<const std::uint8_t> data, std::uint64_t location);
+inline std::uint8_t uInt8Value(std::span<const std::uint8_t> data) { return uInt8ValueAtLocation(data, 0); }
+inline std::uint16_t uInt16Value(std::span<const std::uint8_t> data) { return uInt16ValueAtLocation(data, 0); }
+inline std::uint32_t uInt32Value(std::span<const std::uint8_t> data) { return uInt32ValueAtLocation(data, 0); }
+inline std::uint64_t uInt64Value(std::span<const std::uint8_t> data) { return uInt64ValueAtLocation(data, 0); }
 
 // A copy of the range's bytes; nullopt when the range leaves the buffer.
-std::optional<std::vector<std::uint8_t>> readDataWithRange(orb::ByteView data, OrbRange range);
+std::optional<std::vector<std::uint8_t>> readDataWithRange(std::span<const std::uint8_t> data, OrbRange range);
 
 // From the location up to and including the first zero byte (or up to the
 // end when none follows); length 0 when the location is at or past the end.
-OrbRange rengeUntilNullFromLocation(orb::ByteView data, std::uint64_t location);
+OrbRange rengeUntilNullFromLocation(std::span<const std::uint8_t> data, std::uint64_t location);
 
 // CRC-32 (reflected polynomial 0xEDB88320, start 0xFFFFFFFF, inverted at the
 // end); 0 for an empty buffer.
-std::uint32_t CRC_32(orb::ByteView data);
+std::uint32_t CRC_32(std::span<const std::uint8_t> data);
 
 }  // namespace NSDataOrbAdditions
 

@@ -72,19 +72,35 @@ std::string hexText(std::span<const std::uint8_t> bytes) {
   return text;
 }
 
-// UTF-16 without a byte-order mark may come in either order: the order in
-// which more units have a zero high byte wins (most texts are Latin).
+// How plausible the units are as text in one byte order: units of the Latin
+// range and well-formed surrogate pairs count.
+std::size_t utf16Score(std::span<const std::uint8_t> bytes, bool bigEndian) {
+  const auto unit = [&](std::size_t i) {
+    return bigEndian ? static_cast<std::uint16_t>(bytes[i] << 8 | bytes[i + 1])
+                     : static_cast<std::uint16_t>(bytes[i + 1] << 8 | bytes[i]);
+  };
+  std::size_t score = 0;
+  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
+    const std::uint16_t u = unit(i);
+    if (u < 0x100) ++score;
+    if (u >= 0xD800 && u < 0xDC00 && i + 3 < bytes.size() && unit(i + 2) >= 0xDC00 && unit(i + 2) < 0xE000) {
+      ++score;
+      i += 2;
+    }
+  }
+  return score;
+}
+
+// UTF-16 without a byte-order mark may come in either order (the UNICODE
+// form is written big-endian here, cameras write their file's order): the
+// more plausible order wins, big-endian on a tie.
 std::optional<std::string> decodeUTF16Guessing(std::span<const std::uint8_t> bytes) {
   if (bytes.size() >= 2 && bytes[0] == 0xFE && bytes[1] == 0xFF) return TextEncoding::decodeUTF16(bytes.subspan(2), true);
   if (bytes.size() >= 2 && bytes[0] == 0xFF && bytes[1] == 0xFE) return TextEncoding::decodeUTF16(bytes.subspan(2), false);
-  std::size_t zeroFirst = 0, zeroSecond = 0;
-  for (std::size_t i = 0; i + 1 < bytes.size(); i += 2) {
-    zeroFirst += bytes[i] == 0;
-    zeroSecond += bytes[i + 1] == 0;
-  }
-  const bool bigEndian = zeroFirst >= zeroSecond;
-  if (auto text = TextEncoding::decodeUTF16(bytes.first(bytes.size() & ~std::size_t{1}), bigEndian)) return text;
-  return TextEncoding::decodeUTF16(bytes.first(bytes.size() & ~std::size_t{1}), !bigEndian);
+  bytes = bytes.first(bytes.size() & ~std::size_t{1});
+  const bool bigEndian = utf16Score(bytes, true) >= utf16Score(bytes, false);
+  if (auto text = TextEncoding::decodeUTF16(bytes, bigEndian)) return text;
+  return TextEncoding::decodeUTF16(bytes, !bigEndian);
 }
 
 bool isOffsetTimeTag(const OrbIFDEntry& e) {
@@ -172,7 +188,14 @@ OrbDataObject OrbIFDEntry::objectUndefined() const {
     if (bytes.size() <= kMaxHexBytes) return OrbDataObject(hexText(bytes));
     return OrbDataObject("(" + std::to_string(bytes.size()) + " bytes)");
   }
-  const auto payload = withoutTrailingZeros(valueBytes().subspan(8));
+  // Zero bytes at the end are padding; for UTF-16 only whole zero units are.
+  auto payload = valueBytes().subspan(8);
+  if (code == kOrbStringEncodingTypeUnicode) {
+    while (payload.size() >= 2 && payload[payload.size() - 1] == 0 && payload[payload.size() - 2] == 0)
+      payload = payload.first(payload.size() - 2);
+  } else {
+    payload = withoutTrailingZeros(payload);
+  }
   const std::uint32_t version = version_ ? version_ : (ifdID_ == kExifIFDID ? 232 : 2300);
   const std::uint32_t encoding = stringEncodingWithType(code, version, ifdID_);
   std::optional<std::string> text;

@@ -1,0 +1,481 @@
+// OrbIFDEntry: raw fields, the date clamp, byte-order swaps, equality,
+// display objects and the archive. The catalogue is switched off here so
+// that the entry's own rules are what is tested.
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+#include "core/EntryCatalogueHooks.h"
+#include "core/OrbIFDEntry.h"
+
+namespace {
+
+std::vector<std::uint8_t> bytesOf(std::string_view text) { return {text.begin(), text.end()}; }
+
+std::vector<std::uint8_t> vec(std::span<const std::uint8_t> s) { return {s.begin(), s.end()}; }
+
+class EntryTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    saved_ = entryCatalogueHooks();
+    entryCatalogueHooks() = OrbEntryCatalogueHooks{};
+  }
+  void TearDown() override { entryCatalogueHooks() = saved_; }
+
+  // An entry as a parse makes it: raw bytes in the given order, value copied.
+  static OrbIFDEntry make(std::int8_t endian, std::uint32_t ifdID, std::uint16_t tag, std::uint16_t type,
+                          std::uint32_t count, std::uint32_t data = 0, std::vector<std::uint8_t> value = {}) {
+    OrbIFDEntry e;
+    e.setEndian(endian);
+    e.setIFDID(ifdID);
+    e.setIFDTag(tag);
+    e.setType(type);
+    e.setDataCount(count);
+    e.setData(data);
+    if (!value.empty()) e.setValue(value);
+    return e;
+  }
+
+ private:
+  OrbEntryCatalogueHooks saved_;
+};
+
+TEST_F(EntryTest, NumericFieldsConvertOnEveryAccess) {
+  OrbIFDEntry e;
+  e.setEndian(kOrbLittleEndian);
+  e.setIFDTag(0x0112);
+  e.setType(3);
+  e.setDataCount(1);
+  e.setDataShort1(6);
+  EXPECT_EQ(vec(e.rawEntry()), (std::vector<std::uint8_t>{0x12, 0x01, 3, 0, 1, 0, 0, 0, 6, 0, 0, 0}));
+  e.setEndian(kOrbBigEndian);  // same bytes, now read big-endian
+  EXPECT_EQ(e.ifdTag(), 0x1201);
+  EXPECT_EQ(e.type(), 0x0300);
+  EXPECT_EQ(e.dataCount(), 0x01000000u);
+  EXPECT_EQ(e.shortData1(), 0x0600);
+  e.setEndian(5);  // neither order: read as stored
+  EXPECT_FALSE(e.isBigEndian());
+  EXPECT_FALSE(e.isLittleEndian());
+}
+
+TEST_F(EntryTest, RawFieldSettersZeroFillShortSources) {
+  OrbIFDEntry e;
+  const std::uint8_t raw[12] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
+  e.setEntry(raw, kExifIFDID);
+  EXPECT_EQ(e.ifdID(), kExifIFDID);
+  EXPECT_EQ(e.data(), 0x090A0B0Cu);
+  e.setDataPtr({});
+  EXPECT_EQ(e.data(), 0u);
+  e.setEntry(std::span<const std::uint8_t>(raw, 5), kTIFFIFDID);
+  EXPECT_EQ(vec(e.rawEntry()), (std::vector<std::uint8_t>{1, 2, 3, 4, 5, 0, 0, 0, 0, 0, 0, 0}));
+}
+
+TEST_F(EntryTest, ByteCountIsThirtyTwoBitAndWraps) {
+  struct Case {
+    std::uint16_t type;
+    std::uint32_t count;
+    std::uint32_t bytes;
+  };
+  const Case cases[] = {
+      {1, 7, 7}, {2, 20, 20}, {3, 3, 6}, {4, 2, 8}, {5, 3, 24}, {6, 1, 1}, {7, 8, 8}, {8, 2, 4},
+      {9, 1, 4}, {10, 1, 8}, {11, 1, 4}, {12, 1, 8}, {129, 9, 9}, {13, 5, 5}, {0, 4, 4},
+      {5, 0x20000001, 8}, {3, 0x80000000, 0},
+  };
+  for (const auto& c : cases) {
+    const OrbIFDEntry e = make(kOrbBigEndian, kTIFFIFDID, 1, c.type, c.count);
+    EXPECT_EQ(e.byteCount(), c.bytes) << c.type << " x " << c.count;
+  }
+}
+
+TEST_F(EntryTest, DateClampKeepsTwentyBytesEndingInZero) {
+  struct Case {
+    const char* name;
+    std::uint32_t ifdID;
+    std::uint16_t tag;
+    std::string value;
+    std::size_t keptBytes;
+    std::uint32_t count;
+  };
+  const std::string date24 = "2024:01:02 03:04:05XXXX";  // 23 chars + zero = 24
+  const Case cases[] = {
+      {"DateTimeOriginal 24 bytes", kExifIFDID, 0x9003, date24 + '\0', 20, 20},
+      {"DateTimeDigitized 21 bytes", kExifIFDID, 0x9004, std::string("2024:01:02 03:04:05X") + '\0', 20, 20},
+      {"DateTime 20 bytes ending in a blank", kTIFFIFDID, 0x0132, "2024:01:02 03:04:05 ", 20, 24},
+      {"DateTime 18 bytes", kTIFFIFDID, 0x0132, "2024:01:02 03:04:0", 18, 24},
+      {"ImageDescription 24 bytes", kTIFFIFDID, 0x010E, date24 + '\0', 24, 24},
+      {"DateTimeOriginal in IFD0 is no date entry", kTIFFIFDID, 0x9003, date24 + '\0', 24, 24},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    OrbIFDEntry e = make(kOrbLittleEndian, c.ifdID, c.tag, 2, 24, 0x100);
+    e.setValue(bytesOf(c.value));
+    ASSERT_EQ(e.value().size(), c.keptBytes);
+    EXPECT_EQ(e.dataCount(), c.count);
+    EXPECT_EQ(e.data(), 0x100u);  // the clamp never moves the value
+    if (c.keptBytes == 20 && e.isDateTimeEntry()) {
+      EXPECT_EQ(e.value()[19], 0);
+    }
+  }
+}
+
+TEST_F(EntryTest, IndexedNumbersReadOnlyTheOutOfLineCopy) {
+  const OrbIFDEntry inlineShort = make(kOrbBigEndian, kTIFFIFDID, 0x0102, 3, 1, 0x00080000);
+  EXPECT_EQ(inlineShort.unsignedShortAtIndex(0), 0);
+  const OrbIFDEntry shorts = make(kOrbLittleEndian, kTIFFIFDID, 0x0102, 3, 3, 0x20, {8, 0, 9, 0, 10, 0});
+  EXPECT_EQ(shorts.unsignedShortAtIndex(0), 8);
+  EXPECT_EQ(shorts.unsignedShortAtIndex(2), 10);
+  EXPECT_EQ(shorts.unsignedShortAtIndex(3), 0);
+  const OrbIFDEntry rational = make(kOrbBigEndian, kExifIFDID, 33437, 5, 1, 0x20, {0, 0, 0, 28, 0, 0, 0, 10});
+  EXPECT_EQ(rational.unsignedIntAtIndex(0), 28u);
+  EXPECT_EQ(rational.unsignedIntAtIndex(1), 10u);
+  EXPECT_EQ(rational.unsignedIntAtIndex(2), 0u);
+  // A count claiming more than the copy holds reads nothing past it.
+  OrbIFDEntry claimed = rational;
+  claimed.setDataCount(100);
+  EXPECT_EQ(claimed.unsignedIntAtIndex(50), 0u);
+}
+
+TEST_F(EntryTest, VersionsFromTheirOwnEntriesOnly) {
+  struct Case {
+    std::uint32_t ifdID;
+    std::uint16_t tag;
+    std::uint32_t field;  // the four bytes, big-endian
+    std::uint32_t exif;
+    std::uint32_t gps;
+  };
+  const Case cases[] = {
+      {kExifIFDID, 0x9000, 0x30323330, 230, 0},   // "0230"
+      {kExifIFDID, 0x9000, 0x30333030, 300, 0},   // "0300"
+      {kExifIFDID, 0x9000, 0x30320000, 2, 0},     // "02" then zero bytes end the text
+      {kExifIFDID, 0x9000, 0x41424344, 0, 0},     // no digits
+      {kTIFFIFDID, 0x9000, 0x30323330, 0, 0},     // wrong IFD
+      {kGPSIFDID, 0x0000, 0x02030000, 0, 2300},
+      {kGPSIFDID, 0x0000, 0x02020000, 0, 2200},
+      {kGPSIFDID, 0x0001, 0x02020000, 0, 0},
+  };
+  for (const auto& c : cases) {
+    const OrbIFDEntry e = make(kOrbBigEndian, c.ifdID, c.tag, 7, 4, c.field);
+    EXPECT_EQ(e.exifVersion(), c.exif) << std::hex << c.field;
+    EXPECT_EQ(e.GPSVersion(), c.gps) << std::hex << c.field;
+  }
+}
+
+TEST_F(EntryTest, InitWithEndianAcceptsOnlyTheFiveIFDIDs) {
+  for (std::uint32_t id : {0x10000u, 0x20000u, 0x30000u, 0x40000u, 0x50000u}) {
+    auto e = OrbIFDEntry::initWithEndian(kOrbLittleEndian, 0x0132, id);
+    ASSERT_NE(e, nullptr) << std::hex << id;
+    EXPECT_EQ(e->ifdID(), id);
+    EXPECT_EQ(e->ifdTag(), 0x0132);
+    EXPECT_TRUE(e->isLittleEndian());
+    EXPECT_EQ(e->type(), 0);  // no catalogue here
+  }
+  for (std::uint32_t id : {0x0u, 0x60000u, 0x18000u, 0x10001u, 0xFFFF0000u})
+    EXPECT_EQ(OrbIFDEntry::initWithEndian(kOrbBigEndian, 1, id), nullptr) << std::hex << id;
+}
+
+TEST_F(EntryTest, InitWithEndianAsksTheCatalogue) {
+  entryCatalogueHooks().typeWithIFDTag = [](std::uint16_t tag, std::uint32_t) -> std::uint16_t {
+    return tag == 0x0132 ? 2 : 0;
+  };
+  entryCatalogueHooks().setUpWithIFDTag = [](OrbIFDEntry& e) { e.setDataCount(20); };
+  auto date = OrbIFDEntry::initWithEndian(kOrbBigEndian, 0x0132, kTIFFIFDID);
+  EXPECT_EQ(date->type(), 2);
+  EXPECT_EQ(date->dataCount(), 20u);
+  auto extra = OrbIFDEntry::initWithEndian(kOrbBigEndian, 0x0132, kExtraIFDID);
+  EXPECT_EQ(extra->dataCount(), 0u);  // no set-up outside the four real IFDs
+}
+
+// ---- swaps ----
+
+TEST_F(EntryTest, SwapKeepsTheNumbersInTheOtherOrder) {
+  const OrbIFDEntry e = make(kOrbLittleEndian, kTIFFIFDID, 0x0112, 3, 1, 0x0001);
+  const OrbIFDEntry s = e.swapedEntry();
+  EXPECT_EQ(vec(s.dataPtr()), (std::vector<std::uint8_t>{0, 1, 0, 0}));
+  EXPECT_EQ(s.endian(), kOrbBigEndian);
+  EXPECT_EQ(s.shortData1(), 1);
+  EXPECT_EQ(s.ifdTag(), 0x0112);
+  EXPECT_EQ(s.dataCount(), 1u);
+  EXPECT_TRUE(s.swapedEntry().isEqualToEntry(e));
+}
+
+TEST_F(EntryTest, SwapInlineFieldsByType) {
+  struct Case {
+    std::uint16_t type;
+    std::uint32_t count;
+    std::vector<std::uint8_t> field;
+    std::vector<std::uint8_t> swapped;
+  };
+  const Case cases[] = {
+      {4, 1, {1, 2, 3, 4}, {4, 3, 2, 1}},
+      {9, 1, {1, 2, 3, 4}, {4, 3, 2, 1}},
+      {11, 1, {1, 2, 3, 4}, {4, 3, 2, 1}},
+      {3, 2, {1, 2, 3, 4}, {2, 1, 4, 3}},
+      {8, 2, {1, 2, 3, 4}, {2, 1, 4, 3}},
+      {1, 4, {1, 2, 3, 4}, {1, 2, 3, 4}},
+      {2, 4, {'a', 'b', 'c', 0}, {'a', 'b', 'c', 0}},
+      {7, 4, {1, 2, 3, 4}, {1, 2, 3, 4}},
+      {13, 4, {1, 2, 3, 4}, {1, 2, 3, 4}},
+  };
+  for (const auto& c : cases) {
+    OrbIFDEntry e = make(kOrbBigEndian, kTIFFIFDID, 0x0100, c.type, c.count);
+    e.setDataPtr(c.field);
+    EXPECT_EQ(vec(e.swapedEntry().dataPtr()), c.swapped) << "type " << c.type;
+  }
+}
+
+TEST_F(EntryTest, SwapOutOfLineValuesByType) {
+  const std::vector<std::uint8_t> v16 = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16};
+  struct Case {
+    std::uint32_t ifdID;
+    std::uint16_t tag;
+    std::uint16_t type;
+    std::uint32_t count;
+    std::vector<std::uint8_t> swapped;
+  };
+  const Case cases[] = {
+      {kTIFFIFDID, 0x0111, 4, 4, {4, 3, 2, 1, 8, 7, 6, 5, 12, 11, 10, 9, 16, 15, 14, 13}},
+      {kExifIFDID, 33437, 5, 2, {4, 3, 2, 1, 8, 7, 6, 5, 12, 11, 10, 9, 16, 15, 14, 13}},
+      {kExifIFDID, 37380, 10, 2, {4, 3, 2, 1, 8, 7, 6, 5, 12, 11, 10, 9, 16, 15, 14, 13}},
+      {kTIFFIFDID, 0x0102, 3, 8, {2, 1, 4, 3, 6, 5, 8, 7, 10, 9, 12, 11, 14, 13, 16, 15}},
+      {kTIFFIFDID, 0x0102, 8, 8, {2, 1, 4, 3, 6, 5, 8, 7, 10, 9, 12, 11, 14, 13, 16, 15}},
+      {kTIFFIFDID, 0x0100, 12, 2, {8, 7, 6, 5, 4, 3, 2, 1, 16, 15, 14, 13, 12, 11, 10, 9}},
+      {kTIFFIFDID, 0x0100, 11, 4, {4, 3, 2, 1, 8, 7, 6, 5, 12, 11, 10, 9, 16, 15, 14, 13}},
+      {kExifIFDID, 37510, 7, 16, v16},  // UserComment: bytes as they are
+      {kTIFFIFDID, 0x010E, 2, 16, v16},
+  };
+  for (const auto& c : cases) {
+    const OrbIFDEntry e = make(kOrbBigEndian, c.ifdID, c.tag, c.type, c.count, 0x01020304, v16);
+    const OrbIFDEntry s = e.swapedEntry();
+    EXPECT_EQ(vec(s.value()), c.swapped) << "type " << c.type;
+    EXPECT_EQ(s.data(), 0x01020304u);
+    EXPECT_EQ(vec(s.dataPtr()), (std::vector<std::uint8_t>{4, 3, 2, 1}));
+  }
+}
+
+TEST_F(EntryTest, SwapOfCompositeExposureTimesKeepsItsTwoShorts) {
+  std::vector<std::uint8_t> value(64);
+  for (std::size_t i = 0; i < value.size(); ++i) value[i] = static_cast<std::uint8_t>(i);
+  const OrbIFDEntry e = make(kOrbLittleEndian, kExifIFDID, 0xA462, 7, 64, 0x40, value);
+  const auto s = vec(e.swapedEntry().value());
+  EXPECT_EQ((std::vector<std::uint8_t>(s.begin(), s.begin() + 4)), (std::vector<std::uint8_t>{3, 2, 1, 0}));
+  EXPECT_EQ((std::vector<std::uint8_t>(s.begin() + 52, s.begin() + 56)), (std::vector<std::uint8_t>{55, 54, 53, 52}));
+  EXPECT_EQ((std::vector<std::uint8_t>(s.begin() + 56, s.begin() + 60)), (std::vector<std::uint8_t>{57, 56, 59, 58}));
+  EXPECT_EQ((std::vector<std::uint8_t>(s.begin() + 60, s.end())), (std::vector<std::uint8_t>{63, 62, 61, 60}));
+}
+
+TEST_F(EntryTest, SwapWithoutACopyMakesAZeroFilledOne) {
+  const OrbIFDEntry e = make(kOrbBigEndian, kTIFFIFDID, 0x0111, 4, 3, 0x200);
+  const OrbIFDEntry s = e.swapedEntry();
+  EXPECT_EQ(vec(s.value()), std::vector<std::uint8_t>(12, 0));
+  // A made-up huge count does not allocate gigabytes.
+  const OrbIFDEntry huge = make(kOrbBigEndian, kTIFFIFDID, 0x0111, 4, 0x3FFFFFFF, 0x200);
+  EXPECT_LE(huge.swapedEntry().value().size(), 16u << 20);
+}
+
+// ---- equality ----
+
+TEST_F(EntryTest, EqualityByEntry) {
+  const OrbIFDEntry a = make(kOrbBigEndian, kExifIFDID, 33437, 5, 1, 0x100, {0, 0, 0, 28, 0, 0, 0, 10});
+  OrbIFDEntry sameBytesOtherOffset = a;
+  sameBytesOtherOffset.setData(0x200);
+  EXPECT_TRUE(a.isEqualToEntry(sameBytesOtherOffset));  // out of line: bytes decide, not the offset
+  OrbIFDEntry noCopy = make(kOrbBigEndian, kExifIFDID, 33437, 5, 1, 0x100);
+  EXPECT_FALSE(a.isEqualToEntry(noCopy));
+  EXPECT_TRUE(noCopy.isEqualToEntry(noCopy));
+  EXPECT_FALSE(a.isEqualToEntry(a.swapedEntry()));  // byte order differs
+  const OrbIFDEntry inline1 = make(kOrbBigEndian, kTIFFIFDID, 0x0112, 3, 1, 0x00010000);
+  const OrbIFDEntry inline2 = make(kOrbBigEndian, kTIFFIFDID, 0x0112, 3, 1, 0x00010001);
+  EXPECT_FALSE(inline1.isEqualToEntry(inline2));  // the whole field counts
+}
+
+TEST_F(EntryTest, EqualityByValue) {
+  const auto rational = [](std::uint16_t tag, std::uint32_t n, std::uint32_t d) {
+    std::vector<std::uint8_t> v = {static_cast<std::uint8_t>(n >> 24), static_cast<std::uint8_t>(n >> 16),
+                                   static_cast<std::uint8_t>(n >> 8), static_cast<std::uint8_t>(n),
+                                   static_cast<std::uint8_t>(d >> 24), static_cast<std::uint8_t>(d >> 16),
+                                   static_cast<std::uint8_t>(d >> 8), static_cast<std::uint8_t>(d)};
+    return make(kOrbBigEndian, kExifIFDID, tag, 5, 1, 0x100, v);
+  };
+  struct Case {
+    const char* name;
+    OrbIFDEntry a, b;
+    bool byValue, byEntry;
+  };
+  const Case cases[] = {
+      {"FNumber 28/10 vs 14/5", rational(33437, 28, 10), rational(33437, 14, 5), true, false},
+      {"ExposureTime 1/2 vs 2/4", rational(33434, 1, 2), rational(33434, 2, 4), true, false},
+      {"0/0 is equal to nothing", rational(33437, 0, 0), rational(33437, 0, 0), false, true},
+      {"not a rational tag", rational(0x9999, 28, 10), rational(0x9999, 14, 5), false, false},
+      {"ImageWidth SHORT 640 vs LONG 640", make(kOrbBigEndian, kTIFFIFDID, 256, 3, 1, 640u << 16),
+       make(kOrbBigEndian, kTIFFIFDID, 256, 4, 1, 640), true, false},
+      {"PixelXDimension LE SHORT vs BE LONG", make(kOrbLittleEndian, kExifIFDID, 40962, 3, 1, 640),
+       make(kOrbBigEndian, kExifIFDID, 40962, 4, 1, 640), true, false},
+      {"Orientation SHORT vs LONG", make(kOrbBigEndian, kTIFFIFDID, 0x0112, 3, 1, 1u << 16),
+       make(kOrbBigEndian, kTIFFIFDID, 0x0112, 4, 1, 1), false, false},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    EXPECT_EQ(c.a.isEqualToValue(c.b), c.byValue);
+    EXPECT_EQ(c.a.isEqualToEntry(c.b), c.byEntry);
+  }
+}
+
+TEST_F(EntryTest, EqualityByValueOfTexts) {
+  OrbIFDEntry comment1 = make(kOrbBigEndian, kExifIFDID, 37510, 7, 0);
+  comment1.setVersion(230);
+  OrbIFDEntry comment2 = comment1.swapedEntry();
+  comment1.setString("Hello", kOrbStringEncodingTypeASCII);
+  comment2.setString("Hello", kOrbStringEncodingTypeUnicode);
+  EXPECT_TRUE(comment1.isEqualToValue(comment2));
+  EXPECT_FALSE(comment1.isEqualToEntry(comment2));
+  comment2.setString("Other", kOrbStringEncodingTypeASCII);
+  EXPECT_FALSE(comment1.isEqualToValue(comment2));
+  // A receiver with no value at all is equal to anything.
+  OrbIFDEntry empty = make(kOrbBigEndian, kExifIFDID, 37510, 7, 20, 0x100);
+  entryCatalogueHooks().dataObject = [](const OrbIFDEntry&) -> std::optional<OrbDataObject> { return OrbDataObject(); };
+  EXPECT_TRUE(empty.isEqualToValue(comment2));
+}
+
+TEST_F(EntryTest, CatalogueComparisonComesFirst) {
+  entryCatalogueHooks().isEqualToValue = [](const OrbIFDEntry& a, const OrbIFDEntry&) -> std::optional<bool> {
+    if (a.ifdID() == kGPSIFDID) return true;
+    return std::nullopt;
+  };
+  const OrbIFDEntry a = make(kOrbBigEndian, kGPSIFDID, 2, 5, 3, 0x100);
+  const OrbIFDEntry b = make(kOrbBigEndian, kGPSIFDID, 2, 5, 2, 0x100);
+  EXPECT_TRUE(a.isEqualToValue(b));
+  EXPECT_FALSE(a.isEqualToEntry(b));
+}
+
+// ---- display ----
+
+TEST_F(EntryTest, DisplayObjectsByType) {
+  struct Case {
+    const char* name;
+    OrbIFDEntry entry;
+    std::string text;
+  };
+  const Case cases[] = {
+      {"BYTE", make(kOrbBigEndian, kGPSIFDID, 5, 1, 1, 0x01000000), "1"},
+      {"BYTE x4", make(kOrbBigEndian, kGPSIFDID, 0, 1, 4, 0x02030000), "2, 3, 0, 0"},
+      {"SBYTE", make(kOrbBigEndian, kTIFFIFDID, 1, 6, 1, 0xFF000000), "-1"},
+      {"SHORT LE", make(kOrbLittleEndian, kTIFFIFDID, 0x0112, 3, 1, 6), "6"},
+      {"SHORT x3", make(kOrbBigEndian, kTIFFIFDID, 0x0102, 3, 3, 0x10, {0, 8, 0, 8, 0, 8}), "8, 8, 8"},
+      {"SSHORT", make(kOrbBigEndian, kTIFFIFDID, 1, 8, 1, 0xFFFE0000), "-2"},
+      {"LONG", make(kOrbBigEndian, kTIFFIFDID, 0x0100, 4, 1, 4000), "4000"},
+      {"SLONG", make(kOrbBigEndian, kTIFFIFDID, 1, 9, 1, 0xFFFFFFFD), "-3"},
+      {"RATIONAL", make(kOrbBigEndian, kExifIFDID, 33437, 5, 1, 0x10, {0, 0, 0, 28, 0, 0, 0, 10}), "2.8"},
+      {"RATIONAL 72/1", make(kOrbBigEndian, kTIFFIFDID, 0x011A, 5, 1, 0x10, {0, 0, 0, 72, 0, 0, 0, 1}), "72"},
+      {"RATIONAL n/0", make(kOrbBigEndian, kTIFFIFDID, 0x011A, 5, 1, 0x10, {0, 0, 0, 7, 0, 0, 0, 0}), "7/0"},
+      {"SRATIONAL", make(kOrbBigEndian, kExifIFDID, 37380, 10, 1, 0x10, {0xFF, 0xFF, 0xFF, 0xFD, 0, 0, 0, 3}), "-1"},
+      {"FLOAT", make(kOrbBigEndian, kTIFFIFDID, 1, 11, 1, 0x3DCCCCCD), "0.1"},
+      {"DOUBLE", make(kOrbBigEndian, kTIFFIFDID, 1, 12, 1, 0x10, {0x3F, 0xF8, 0, 0, 0, 0, 0, 0}), "1.5"},
+      {"ASCII inline", make(kOrbBigEndian, kInteroperabilityIFDID, 1, 2, 4, 0x52393800), "R98"},
+      {"ASCII stops at zero", make(kOrbBigEndian, kTIFFIFDID, 0x010F, 2, 8, 0x10, bytesOf(std::string("Abc\0Def\0", 8))), "Abc"},
+      {"ASCII missing copy", make(kOrbBigEndian, kTIFFIFDID, 0x010F, 2, 8, 0x10), ""},
+      {"UTF-8", make(kOrbBigEndian, kTIFFIFDID, 0x010E, 129, 7, 0x10, bytesOf("caf\xC3\xA9s\0")), "caf\xC3\xA9s"},
+      {"ASCII Latin-1 byte", make(kOrbBigEndian, kTIFFIFDID, 0x010E, 2, 6, 0x10, bytesOf(std::string("caf\xE9s\0", 6))), "caf\xC3\xA9s"},
+      {"UNDEFINED version", make(kOrbBigEndian, kExifIFDID, 0x9000, 7, 4, 0x30323330), "0230"},
+      {"UNDEFINED bytes", make(kOrbBigEndian, kExifIFDID, 0x9101, 7, 4, 0x01020300), "01 02 03 00"},
+      {"UNDEFINED long binary", make(kOrbBigEndian, kExifIFDID, 0x927C, 7, 40, 0x10, std::vector<std::uint8_t>(40, 1)), "(40 bytes)"},
+      {"unknown type", make(kOrbBigEndian, kTIFFIFDID, 1, 99, 1, 5), ""},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    EXPECT_EQ(c.entry.stringData(), c.text);
+  }
+}
+
+TEST_F(EntryTest, DisplayKinds) {
+  EXPECT_TRUE(make(kOrbBigEndian, kTIFFIFDID, 0x0100, 4, 1, 1).dataObject().isNumber());
+  EXPECT_TRUE(make(kOrbBigEndian, kTIFFIFDID, 0x0102, 3, 2, 1).dataObject().isText());
+  EXPECT_TRUE(make(kOrbBigEndian, kTIFFIFDID, 0x0102, 3, 0, 1).dataObject().isNone());
+  EXPECT_TRUE(make(kOrbBigEndian, kTIFFIFDID, 0x0102, 99, 1, 1).dataObject().isText());
+}
+
+TEST_F(EntryTest, OffsetTimeBlanksAreUnknown) {
+  for (std::string text : {"   :  ", "      ", ""}) {
+    OrbIFDEntry e = make(kOrbBigEndian, kExifIFDID, 0x9011, 2, 0);
+    e.setASCIIString(text);
+    EXPECT_EQ(e.stringData(), "Unknown") << '"' << text << '"';
+    EXPECT_EQ(e.localizedDataObject().text(), "Unknown");
+  }
+  OrbIFDEntry e = make(kOrbBigEndian, kExifIFDID, 0x9011, 2, 0);
+  e.setASCIIString("+09:00");
+  EXPECT_EQ(e.stringData(), "+09:00");
+  OrbIFDEntry notOffset = make(kOrbBigEndian, kExifIFDID, 0x9013, 2, 0);
+  notOffset.setASCIIString("      ");
+  EXPECT_EQ(notOffset.stringData(), "      ");
+}
+
+TEST_F(EntryTest, CatalogueDisplayObjectComesFirst) {
+  entryCatalogueHooks().dataObject = [](const OrbIFDEntry& e) -> std::optional<OrbDataObject> {
+    if (e.ifdTag() == 0x0112) return OrbDataObject("Rotate 90 CW");
+    if (e.ifdTag() == 7) return OrbDataObject(OrbTimeStampObject{"13:05:07.25"});
+    return std::nullopt;
+  };
+  EXPECT_EQ(make(kOrbBigEndian, kTIFFIFDID, 0x0112, 3, 1, 6u << 16).stringData(), "Rotate 90 CW");
+  EXPECT_EQ(make(kOrbBigEndian, kGPSIFDID, 7, 5, 3, 0x10).stringData(), "13:05:07.25");
+  EXPECT_EQ(make(kOrbBigEndian, kTIFFIFDID, 0x0100, 4, 1, 5).stringData(), "5");
+}
+
+TEST_F(EntryTest, DescriptionAndFallbackTitle) {
+  const OrbIFDEntry inline1 = make(kOrbBigEndian, kExifIFDID, 0xA20D, 3, 1, 0x00050000);
+  EXPECT_EQ(inline1.description(), "(0xA20D) Type:3 Count:1 data:0x50000 IFDID: (0x20000) IFDTag: (0xA20D)");
+  const OrbIFDEntry pointer = make(kOrbBigEndian, kTIFFIFDID, 0x0132, 2, 20, 0x1A2);
+  EXPECT_EQ(pointer.description(), "(0x132) Type:2 Count:20 data:Pointer 0x1A2 IFDID: (0x10000) IFDTag: (0x132)");
+}
+
+// ---- archive ----
+
+TEST_F(EntryTest, ArchiveRoundTrips) {
+  const OrbIFDEntry entries[] = {
+      make(kOrbLittleEndian, kExifIFDID, 0x9003, 2, 20, 0x1A2, bytesOf(std::string("2024:01:02 03:04:05\0", 20))),
+      make(kOrbBigEndian, kTIFFIFDID, 0x0112, 3, 1, 6u << 16),
+      make(kOrbBigEndian, kGPSIFDID, 2, 5, 3, 0x300),  // out of line, no copy
+  };
+  for (OrbIFDEntry e : entries) {
+    e.setVersion(230);
+    const auto archive = e.archivedData();
+    auto back = OrbIFDEntry::entryWithArchivedData(archive);
+    ASSERT_NE(back, nullptr);
+    EXPECT_TRUE(back->isEqualToEntry(e));
+    EXPECT_EQ(vec(back->rawEntry()), vec(e.rawEntry()));
+    EXPECT_EQ(back->version(), 230u);
+    EXPECT_EQ(back->hasValue(), e.hasValue());
+  }
+}
+
+TEST_F(EntryTest, ArchiveHoldsTheDesignedKeys) {
+  const auto archive = make(kOrbBigEndian, kExifIFDID, 37510, 7, 10, 0x40, bytesOf("ASCII\0\0\0hi")).archivedData();
+  const std::string text(archive.begin(), archive.end());
+  for (const char* key : {"_endian", "_ifdID", "ifdTag", "type", "dataCount", "data", "value", "_version"})
+    EXPECT_NE(text.find(key), std::string::npos) << key;
+}
+
+TEST_F(EntryTest, MalformedArchivesGiveNoEntry) {
+  const auto good = make(kOrbBigEndian, kExifIFDID, 37510, 7, 10, 0x40, bytesOf("ASCII\0\0\0hi")).archivedData();
+  EXPECT_NE(OrbIFDEntry::entryWithArchivedData(good), nullptr);
+  for (std::size_t size = 0; size < good.size(); ++size) {
+    const std::vector<std::uint8_t> cut(good.begin(), good.begin() + static_cast<long>(size));
+    EXPECT_EQ(OrbIFDEntry::entryWithArchivedData(cut), nullptr) << size;
+  }
+  auto badMagic = good;
+  badMagic[0] = 'X';
+  EXPECT_EQ(OrbIFDEntry::entryWithArchivedData(badMagic), nullptr);
+}
+
+TEST_F(EntryTest, CopiesAreDeep) {
+  OrbIFDEntry a = make(kOrbBigEndian, kTIFFIFDID, 0x010E, 2, 8, 0x40, bytesOf(std::string("Picture\0", 8)));
+  a.setVersion(7);
+  OrbIFDEntry b = a;
+  b.setASCIIString("Another picture");
+  EXPECT_EQ(a.stringData(), "Picture");
+  EXPECT_EQ(b.stringData(), "Another picture");
+  const auto c = a.copy();
+  EXPECT_TRUE(c->isEqualToEntry(a));
+  EXPECT_EQ(c->version(), 7u);
+}
+
+}  // namespace

@@ -1,0 +1,255 @@
+// Text values: ASCII and UTF-8 setters, the character-code form of
+// UNDEFINED text in its three encodings, and reading those forms back.
+
+#include <gtest/gtest.h>
+
+#include "core/EntryCatalogueHooks.h"
+#include "core/OrbIFDEntry.h"
+
+namespace {
+
+using Bytes = std::vector<std::uint8_t>;
+
+Bytes vec(std::span<const std::uint8_t> s) { return {s.begin(), s.end()}; }
+Bytes operator+(Bytes a, const Bytes& b) {
+  a.insert(a.end(), b.begin(), b.end());
+  return a;
+}
+
+const Bytes kASCII = {'A', 'S', 'C', 'I', 'I', 0, 0, 0};
+const Bytes kJIS = {'J', 'I', 'S', 0, 0, 0, 0, 0};
+const Bytes kUNICODE = {'U', 'N', 'I', 'C', 'O', 'D', 'E', 0};
+const char* const kNihon = "\xE6\x97\xA5\xE6\x9C\xAC";  // two kanji: sun, book
+
+class TextTest : public testing::Test {
+ protected:
+  void SetUp() override {
+    saved_ = entryCatalogueHooks();
+    entryCatalogueHooks() = OrbEntryCatalogueHooks{};
+  }
+  void TearDown() override { entryCatalogueHooks() = saved_; }
+
+  static OrbIFDEntry entry(std::uint32_t ifdID, std::uint16_t tag, std::uint32_t version = 0,
+                           std::int8_t endian = kOrbBigEndian) {
+    OrbIFDEntry e;
+    e.setEndian(endian);
+    e.setIFDID(ifdID);
+    e.setIFDTag(tag);
+    e.setVersion(version);
+    return e;
+  }
+
+ private:
+  OrbEntryCatalogueHooks saved_;
+};
+
+TEST_F(TextTest, ASCIIStringInlineOrOutOfLine) {
+  OrbIFDEntry e = entry(kTIFFIFDID, 0x0131);
+  e.setASCIIString("abc");
+  EXPECT_EQ(e.type(), 2);
+  EXPECT_EQ(e.dataCount(), 4u);
+  EXPECT_EQ(vec(e.dataPtr()), (Bytes{'a', 'b', 'c', 0}));
+  EXPECT_FALSE(e.hasValue());
+
+  OrbIFDEntry date = entry(kTIFFIFDID, 0x0132);
+  date.setASCIIString("2024:01:02 03:04:05");
+  EXPECT_EQ(date.dataCount(), 20u);
+  EXPECT_EQ(date.data(), 0u);
+  ASSERT_EQ(date.value().size(), 20u);
+  EXPECT_EQ(date.value()[19], 0);
+  EXPECT_EQ(date.stringData(), "2024:01:02 03:04:05");
+}
+
+TEST_F(TextTest, ASCIIStringEmptyOrNotASCIIClearsTheValue) {
+  for (const char* text : {"", "caf\xC3\xA9"}) {
+    OrbIFDEntry e = entry(kTIFFIFDID, 0x010E);
+    e.setASCIIString("a longer description");
+    e.setASCIIString(text);
+    EXPECT_EQ(e.type(), 2);
+    EXPECT_EQ(e.dataCount(), 0u);
+    EXPECT_FALSE(e.hasValue());
+  }
+}
+
+TEST_F(TextTest, ShortTextLeavesAnOlderCopyAlone) {
+  OrbIFDEntry e = entry(kTIFFIFDID, 0x010E);
+  e.setASCIIString("a longer description");
+  e.setASCIIString("ab");
+  EXPECT_TRUE(e.hasValue());  // deliberately kept
+  EXPECT_EQ(e.dataCount(), 3u);
+  EXPECT_EQ(e.stringData(), "ab");  // the inline field is what counts
+}
+
+TEST_F(TextTest, UTF8String) {
+  OrbIFDEntry e = entry(kTIFFIFDID, 0x010E);
+  e.setUTF8String("caf\xC3\xA9");
+  EXPECT_EQ(e.type(), 129);
+  EXPECT_EQ(e.dataCount(), 6u);
+  EXPECT_EQ(vec(e.value()), (Bytes{'c', 'a', 'f', 0xC3, 0xA9, 0}));
+  EXPECT_EQ(e.stringData(), "caf\xC3\xA9");
+  e.setUTF8String("\xFF\xFE");  // not UTF-8: nothing to store
+  EXPECT_EQ(e.dataCount(), 0u);
+}
+
+TEST_F(TextTest, EncodingForTypeAndVersion) {
+  struct Case {
+    std::uint32_t ifdID;
+    std::uint32_t type;
+    std::uint32_t version;
+    std::uint32_t encoding;
+  };
+  const Case cases[] = {
+      {kExifIFDID, 2, 230, kOrbEncodingUTF16},   {kExifIFDID, 2, 300, kOrbEncodingUTF8},
+      {kExifIFDID, 3, 230, kOrbEncodingShiftJIS}, {kExifIFDID, 3, 300, kOrbEncodingISO2022JP},
+      {kExifIFDID, 1, 230, kOrbEncodingASCII},   {kExifIFDID, 4, 230, kOrbEncodingNone},
+      {kExifIFDID, 0, 300, kOrbEncodingNone},    {kGPSIFDID, 2, 2300, kOrbEncodingUTF16},
+      {kGPSIFDID, 2, 2400, kOrbEncodingUTF8},    {kInteroperabilityIFDID, 2, 0, kOrbEncodingUTF8},
+  };
+  for (const auto& c : cases) {
+    const OrbIFDEntry e = entry(c.ifdID, 37510);
+    // The IFD id argument is not used: the entry's own decides.
+    EXPECT_EQ(e.stringEncodingWithType(c.type, c.version, 0x99990000), c.encoding)
+        << std::hex << c.ifdID << std::dec << " type " << c.type << " v" << c.version;
+  }
+}
+
+TEST_F(TextTest, CharacterCodeForms) {
+  struct Case {
+    const char* name;
+    std::uint32_t ifdID;
+    std::uint16_t tag;
+    std::uint32_t version;
+    std::string text;
+    std::uint32_t type;
+    Bytes value;
+  };
+  const Case cases[] = {
+      {"ASCII", kExifIFDID, 37510, 230, "Hello", 1, kASCII + Bytes{'H', 'e', 'l', 'l', 'o'}},
+      {"UNICODE before 3.0: UTF-16 big-endian", kExifIFDID, 37510, 230, "Hi", 2, kUNICODE + Bytes{0, 'H', 0, 'i'}},
+      {"UNICODE from 3.0: UTF-8", kExifIFDID, 37510, 300, "Hi", 2, kUNICODE + Bytes{'H', 'i'}},
+      {"JIS before 3.0: Shift JIS", kExifIFDID, 37510, 230, kNihon, 3, kJIS + Bytes{0x93, 0xFA, 0x96, 0x7B}},
+      {"JIS from 3.0: ISO-2022-JP", kExifIFDID, 37510, 300, kNihon, 3,
+       kJIS + Bytes{0x1B, 0x24, 0x42, 0x46, 0x7C, 0x4B, 0x5C, 0x1B, 0x28, 0x42}},
+      {"no version in Exif counts as 2.32", kExifIFDID, 37510, 0, "Hi", 2, kUNICODE + Bytes{0, 'H', 0, 'i'}},
+      {"GPS without version counts as 2.3", kGPSIFDID, 27, 0, "Hi", 2, kUNICODE + Bytes{0, 'H', 0, 'i'}},
+      {"GPS 2.4 takes UTF-8", kGPSIFDID, 28, 2400, "Hi", 2, kUNICODE + Bytes{'H', 'i'}},
+      {"ASCII that cannot be: UNICODE", kExifIFDID, 37510, 230, kNihon, 1, kUNICODE + Bytes{0x65, 0xE5, 0x67, 0x2C}},
+      {"ASCII that cannot be, 3.0: UTF-8", kExifIFDID, 37510, 300, "\xC3\xA9", 1, kUNICODE + Bytes{0xC3, 0xA9}},
+      {"Shift JIS that cannot be: UNICODE", kExifIFDID, 37510, 230, "\xF0\x9F\x98\x80", 3,
+       kUNICODE + Bytes{0xD8, 0x3D, 0xDE, 0x00}},
+      {"empty ASCII", kExifIFDID, 37510, 230, "", 1, kASCII},
+      {"empty UNICODE", kExifIFDID, 37510, 230, "", 2, kUNICODE},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    OrbIFDEntry e = entry(c.ifdID, c.tag, c.version);
+    e.setString(c.text, c.type);
+    EXPECT_EQ(e.type(), 7);
+    EXPECT_EQ(e.dataCount(), c.value.size());
+    EXPECT_EQ(vec(e.value()), c.value);
+    EXPECT_EQ(e.stringData(), c.text);  // and the display reads it back
+  }
+}
+
+TEST_F(TextTest, UnknownCodeWithEmptyTextLeavesNoValueButACount) {
+  OrbIFDEntry e = entry(kExifIFDID, 37510, 230);
+  e.setString("old text", 1);
+  e.setString("", 4);
+  EXPECT_EQ(e.type(), 7);
+  EXPECT_EQ(e.dataCount(), 8u);
+  EXPECT_FALSE(e.hasValue());
+}
+
+TEST_F(TextTest, CharacterCodeOfAnUndefinedEntry) {
+  struct Case {
+    const char* name;
+    std::uint16_t type;
+    Bytes value;
+    std::uint32_t code;
+  };
+  const Case cases[] = {
+      {"ASCII", 7, kASCII + Bytes{'x'}, 1},
+      {"JIS", 7, kJIS + Bytes{'x'}, 3},
+      {"UNICODE", 7, kUNICODE + Bytes{0, 'x'}, 2},
+      {"undefined", 7, Bytes(12, 0), 4},
+      {"prefix alone", 7, kASCII, 1},
+      {"unknown prefix", 7, Bytes{'X', 'S', 'C', 'I', 'I', 0, 0, 0, 'x'}, 0},
+      {"not UNDEFINED", 2, kASCII + Bytes{'x'}, 0},
+  };
+  for (const auto& c : cases) {
+    OrbIFDEntry e = entry(kExifIFDID, 37510);
+    e.setType(c.type);
+    e.setDataCount(static_cast<std::uint32_t>(c.value.size()));
+    e.setValue(c.value);
+    EXPECT_EQ(OrbIFDEntry::stringEncodingTypeWithUndefinedTypeEntry(&e), c.code) << c.name;
+  }
+  EXPECT_EQ(OrbIFDEntry::stringEncodingTypeWithUndefinedTypeEntry(nullptr), 0u);
+  OrbIFDEntry inlineOnly = entry(kExifIFDID, 37510);
+  inlineOnly.setType(7);
+  inlineOnly.setDataCount(4);
+  EXPECT_EQ(OrbIFDEntry::stringEncodingTypeWithUndefinedTypeEntry(&inlineOnly), 0u);
+}
+
+TEST_F(TextTest, ReverseUnicodeString) {
+  struct Case {
+    const char* name;
+    std::uint32_t ifdID;
+    std::uint16_t tag;
+    Bytes value;
+    bool reversed;
+    Bytes after;
+  };
+  const Case cases[] = {
+      {"UserComment", kExifIFDID, 37510, kUNICODE + Bytes{'H', 0, 'i', 0}, true, kUNICODE + Bytes{0, 'H', 0, 'i'}},
+      {"odd last byte stays", kGPSIFDID, 27, kUNICODE + Bytes{1, 2, 3}, true, kUNICODE + Bytes{2, 1, 3}},
+      {"GPSAreaInformation", kGPSIFDID, 28, kUNICODE + Bytes{1, 2}, true, kUNICODE + Bytes{2, 1}},
+      {"prefix only", kExifIFDID, 37510, kUNICODE, false, kUNICODE},
+      {"ASCII form", kExifIFDID, 37510, kASCII + Bytes{'H', 'i'}, false, kASCII + Bytes{'H', 'i'}},
+      {"other tag", kExifIFDID, 37511, kUNICODE + Bytes{1, 2}, false, kUNICODE + Bytes{1, 2}},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    OrbIFDEntry e = entry(c.ifdID, c.tag);
+    e.setType(7);
+    e.setDataCount(static_cast<std::uint32_t>(c.value.size()));
+    e.setValue(c.value);
+    EXPECT_EQ(e.reverseUnicodeString(), c.reversed);
+    EXPECT_EQ(vec(e.value()), c.after);
+  }
+}
+
+TEST_F(TextTest, UTF16InFileOrderReadsEitherWay) {
+  // Cameras write the UNICODE form in their own byte order.
+  for (const Bytes& payload : {Bytes{'H', 0, 'i', 0}, Bytes{0, 'H', 0, 'i'}, Bytes{0xFF, 0xFE, 'H', 0, 'i', 0}}) {
+    OrbIFDEntry e = entry(kExifIFDID, 37510, 220, kOrbLittleEndian);
+    const Bytes value = kUNICODE + payload;
+    e.setType(7);
+    e.setDataCount(static_cast<std::uint32_t>(value.size()));
+    e.setValue(value);
+    EXPECT_EQ(e.stringData(), "Hi");
+  }
+}
+
+TEST(TextAllowance, UTF8AllowedTags) {
+  struct Case {
+    std::uint32_t ifdID;
+    std::uint16_t tag;
+    bool allowed;
+  };
+  const Case cases[] = {
+      {kTIFFIFDID, 270, true},    {kTIFFIFDID, 271, true},    {kTIFFIFDID, 33432, true},
+      {kTIFFIFDID, 306, false},   {kExifIFDID, 0xA430, true}, {kExifIFDID, 0xA431, false},
+      {kExifIFDID, 0xA432, false}, {kExifIFDID, 0xA433, true}, {kExifIFDID, 0xA435, false},
+      {kExifIFDID, 0xA436, true}, {kExifIFDID, 0xA43C, true}, {kExifIFDID, 0xA43D, false},
+      {kExifIFDID, 270, false},   {kGPSIFDID, 27, true},      {kGPSIFDID, 28, true},
+      {kGPSIFDID, 29, false},     {kInteroperabilityIFDID, 1, false},
+  };
+  for (const auto& c : cases)
+    EXPECT_EQ(OrbIFDEntry::allowedUTF8WithItemID({c.ifdID, c.tag}), c.allowed) << std::hex << c.ifdID << " " << c.tag;
+  EXPECT_EQ(OrbIFDEntry::versionAllowedUTF8(kTIFFIFDID), 300u);
+  EXPECT_EQ(OrbIFDEntry::versionAllowedUTF8(kExifIFDID), 300u);
+  EXPECT_EQ(OrbIFDEntry::versionAllowedUTF8(kGPSIFDID), 2400u);
+  EXPECT_EQ(OrbIFDEntry::versionAllowedUTF8(kInteroperabilityIFDID), 0u);
+}
+
+}  // namespace

@@ -1,0 +1,196 @@
+// Malformed and hostile structures: the parse ends, keeps what it could
+// read, and never reads outside the block (the sanitizer run checks that).
+
+#include <gtest/gtest.h>
+
+#include "core/OrbTiff.h"
+#include "support/TiffBuilder.h"
+
+namespace {
+
+using lumtest::TiffBuilder;
+
+constexpr std::uint16_t kMake = 0x010F;
+constexpr std::uint16_t kModel = 0x0110;
+
+std::unique_ptr<OrbTiff> parse(const std::vector<std::uint8_t>& block, std::uint64_t location = 0,
+                               std::optional<std::uint64_t> maxLocation = std::nullopt) {
+  return OrbTiff::exifWithPtr(block, &location, maxLocation.value_or(block.size()));
+}
+
+// The block is copied into a buffer of exactly its size, so that the
+// sanitizer catches a read past its end.
+std::unique_ptr<OrbTiff> parseExact(const std::vector<std::uint8_t>& block, std::uint64_t maxLocation) {
+  auto exact = std::make_unique<std::uint8_t[]>(block.size());
+  std::copy(block.begin(), block.end(), exact.get());
+  std::uint64_t location = 0;
+  return OrbTiff::exifWithPtr(orb::ByteView(exact.get(), block.size()), &location, maxLocation);
+}
+
+TEST(OrbTiffMalformed, OutOfLineValueMustEndWithinTheLimit) {
+  for (bool little : {false, true}) {
+    TiffBuilder builder(little);
+    builder.ifd0().ascii(kMake, "Maker name").ascii(kModel, "Model name");
+    const auto block = builder.build();
+    const std::uint64_t modelEnd = builder.valueOffset(builder.ifd0(), kModel) + 11;
+    ASSERT_EQ(modelEnd, block.size() - 1);  // 11 bytes, then the padding byte
+
+    auto exact = parse(block, 0, modelEnd);  // ending exactly at the limit is fine
+    EXPECT_NE(exact->entryWithIFDTag(kModel, kTIFFIFDID), nullptr);
+    auto short1 = parse(block, 0, modelEnd - 1);  // one byte short: dropped
+    EXPECT_EQ(short1->entryWithIFDTag(kModel, kTIFFIFDID), nullptr);
+    EXPECT_NE(short1->entryWithIFDTag(kMake, kTIFFIFDID), nullptr);
+  }
+}
+
+TEST(OrbTiffMalformed, EntriesPointingOutsideAreDroppedOthersKept) {
+  struct Case {
+    const char* name;
+    std::uint16_t type;
+    std::uint32_t count;
+    std::uint32_t field;
+  };
+  const Case cases[] = {
+      {"offset past the end", 2, 20, 0x7FFFFFF0},
+      {"offset at 2^32-1", 2, 20, 0xFFFFFFFF},
+      {"huge count", 2, 0xFFFFFFF0, 8},
+      {"count wrapping to a small size", 5, 0x20000001, 8},  // 8 * count wraps to 8
+      {"huge rational count", 5, 0x1FFFFFFF, 8},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    TiffBuilder builder(TiffBuilder::kLittle);
+    builder.ifd0().raw(0x0132, c.type, c.count, c.field).ascii(kMake, "Maker");
+    const auto block = builder.build();
+    auto tiff = parseExact(block, block.size());
+    ASSERT_NE(tiff, nullptr);
+    EXPECT_NE(tiff->entryWithIFDTag(kMake, kTIFFIFDID), nullptr);
+    const OrbIFDEntry* bad = tiff->entryWithIFDTag(0x0132, kTIFFIFDID);
+    if (bad) {
+      // Only the wrapping count can be kept: its 8 bytes lie in the block.
+      EXPECT_EQ(bad->byteCount(), 8u);
+      EXPECT_EQ(bad->value().size(), 8u);
+    }
+  }
+}
+
+TEST(OrbTiffMalformed, LimitLargerThanTheBlockNeverReadsPastTheBlock) {
+  TiffBuilder builder;
+  builder.ifd0().ascii(kMake, "Maker name").raw(kModel, 2, 64, 40);
+  auto block = builder.build();
+  auto tiff = parseExact(block, block.size() + 1000);
+  ASSERT_NE(tiff, nullptr);
+  EXPECT_NE(tiff->entryWithIFDTag(kMake, kTIFFIFDID), nullptr);
+  EXPECT_EQ(tiff->entryWithIFDTag(kModel, kTIFFIFDID), nullptr);
+}
+
+TEST(OrbTiffMalformed, TruncatedBlocksEndCleanly) {
+  TiffBuilder builder(TiffBuilder::kLittle);
+  auto& ifd0 = builder.ifd0();
+  ifd0.ascii(kMake, "Maker name").shorts(0x0112, {1});
+  ifd0.exif().ascii(kDateTimeOriginalTag, "2024:01:02 03:04:05").shorts(0xA001, {1});
+  ifd0.gps().bytes(0, 1, {2, 3, 0, 0});
+  ifd0.next().longs(0x0201, {1234});
+  const auto full = builder.build();
+  // Cut at every length: no crash, no read outside, header rules respected.
+  for (std::size_t size = 0; size <= full.size(); ++size) {
+    std::vector<std::uint8_t> cut(full.begin(), full.begin() + static_cast<long>(size));
+    auto tiff = parseExact(cut, cut.size());
+    EXPECT_EQ(tiff != nullptr, size >= 8) << size;
+  }
+  auto whole = parseExact(full, full.size());
+  EXPECT_EQ(whole->IFDs()->size(), 2u);
+}
+
+TEST(OrbTiffMalformed, EntryTableRunningPastTheLimitStopsAtIt) {
+  TiffBuilder builder;
+  builder.ifd0().shorts(0x0112, {1}).shorts(0x0128, {2}).shorts(0x0213, {1});
+  const auto block = builder.build();
+  const std::uint64_t tableStart = 8 + 2;
+  // The limit falls inside the second entry: it is still read (the last
+  // entry read may run past the limit), the third is not.
+  auto tiff = parseExact(block, tableStart + 12 + 5);
+  ASSERT_NE(tiff, nullptr);
+  EXPECT_NE(tiff->entryWithIFDTag(0x0112, kTIFFIFDID), nullptr);
+  EXPECT_NE(tiff->entryWithIFDTag(0x0128, kTIFFIFDID), nullptr);
+  EXPECT_EQ(tiff->entryWithIFDTag(0x0213, kTIFFIFDID), nullptr);
+}
+
+TEST(OrbTiffMalformed, ClaimedEntryCountBeyondTheBlock) {
+  for (std::uint16_t claimed : {std::uint16_t{5}, std::uint16_t{0xFFFF}}) {
+    TiffBuilder builder;
+    builder.ifd0().shorts(0x0112, {1}).claimEntryCount(claimed);
+    const auto block = builder.build();
+    auto tiff = parseExact(block, block.size());
+    ASSERT_NE(tiff, nullptr);
+    EXPECT_NE(tiff->entryWithIFDTag(0x0112, kTIFFIFDID), nullptr);
+  }
+}
+
+TEST(OrbTiffMalformed, ChainLoopingBackEnds) {
+  struct Case {
+    const char* name;
+    bool loopOnSecond;  // IFD1 points back to IFD0, else IFD0 to itself
+  };
+  for (const Case c : {Case{"self", false}, Case{"back to IFD0", true}}) {
+    SCOPED_TRACE(c.name);
+    TiffBuilder builder;
+    auto& ifd0 = builder.ifd0();
+    ifd0.ascii(kMake, "Maker");
+    if (c.loopOnSecond) ifd0.next().ascii(kModel, "Model").nextOffset(8);
+    else ifd0.nextOffset(8);
+    auto tiff = parse(builder.build());
+    ASSERT_NE(tiff, nullptr);
+    EXPECT_EQ(tiff->IFDs()->size(), c.loopOnSecond ? 2u : 1u);
+  }
+}
+
+TEST(OrbTiffMalformed, SubIFDPointingAtItsParentIsReadOnce) {
+  TiffBuilder builder;
+  builder.ifd0().ascii(kMake, "Maker").raw(kExifPointerTag, 4, 1, 8).raw(kGPSPointerTag, 4, 1, 8);
+  auto tiff = parse(builder.build());
+  ASSERT_NE(tiff, nullptr);
+  ASSERT_EQ(tiff->IFDs()->size(), 1u);
+  // IFD0's entries read again as Exif and GPS entries: odd, but finite.
+  EXPECT_NE(tiff->entryWithIFDTag(kMake, kExifIFDID), nullptr);
+  EXPECT_NE(tiff->entryWithIFDTag(kMake, kGPSIFDID), nullptr);
+}
+
+TEST(OrbTiffMalformed, NextOffsetAtOrPastTheLimitEndsTheWalk) {
+  TiffBuilder builder;
+  builder.ifd0().ascii(kMake, "Maker").nextOffset(0x7FFFFFFF);
+  testing::internal::CaptureStderr();
+  auto tiff = parse(builder.build());
+  const std::string console = testing::internal::GetCapturedStderr();
+  ASSERT_NE(tiff, nullptr);
+  EXPECT_EQ(tiff->IFDs()->size(), 1u);
+  EXPECT_NE(console.find("nextIFDLocation: (2147483647) maxLocation:("), std::string::npos) << console;
+}
+
+TEST(OrbTiffMalformed, IFD0OffsetOutsideGivesNoIFD) {
+  TiffBuilder builder;
+  builder.ifd0().ascii(kMake, "Maker");
+  builder.firstIFDOffset(0xFFFFFFF0);
+  auto tiff = parse(builder.build());
+  ASSERT_NE(tiff, nullptr);
+  ASSERT_NE(tiff->IFDs(), nullptr);
+  EXPECT_TRUE(tiff->IFDs()->empty());
+}
+
+TEST(OrbTiffMalformed, SubIFDOffsetOutsideLeavesItOut) {
+  TiffBuilder builder;
+  builder.ifd0().ascii(kMake, "Maker").raw(kExifPointerTag, 4, 1, 0xFFFFFF00).raw(kGPSPointerTag, 4, 1, 3);
+  auto tiff = parse(builder.build());
+  ASSERT_NE(tiff, nullptr);
+  EXPECT_FALSE(tiff->hasEntriesWithIFDID(kExifIFDID));
+  EXPECT_NE(tiff->entryWithIFDTag(kMake, kTIFFIFDID), nullptr);
+}
+
+TEST(OrbTiffMalformed, HeaderLocationPastTheBlock) {
+  const std::vector<std::uint8_t> block = {'M', 'M', 0, 42, 0, 0, 0, 8};
+  for (std::uint64_t location : {std::uint64_t{7}, std::uint64_t{8}, std::uint64_t{1} << 40, ~std::uint64_t{0} - 1}) {
+    EXPECT_EQ(OrbTiff::exifWithPtr(block, &location, ~std::uint64_t{0}), nullptr) << location;
+  }
+}
+
+}  // namespace
