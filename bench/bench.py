@@ -55,6 +55,22 @@ def load_average():
         return "unknown"
 
 
+def busy_note(*loads):
+    """A warning when other work ran on the machine beside the benchmark."""
+    cores = os.cpu_count() or 1
+    ones = []
+    for load in loads:
+        try:
+            ones.append(float(load.split()[0]))
+        except (ValueError, IndexError):
+            pass
+    if ones and max(ones) > 0.5 * cores:
+        return ("other work was running on this machine during the run (1-minute load average "
+                "up to %.1f on %d cores), so every figure is slower and noisier than on an idle "
+                "machine; ratios within one run suffer less, as the programs take turns run by run" % (max(ones), cores))
+    return ""
+
+
 def machine_description(scratch, repo, load_at_start, note):
     mem_kb = first_line_with("/proc/meminfo", "MemTotal").split()[0]
     disk = command_output(["findmnt", "-n", "-o", "SOURCE,FSTYPE", "--target", scratch])
@@ -77,6 +93,9 @@ def machine_description(scratch, repo, load_at_start, note):
             command_output(["jhead", "-V"]) or "jhead absent")),
         ("load average (1, 5, 15 min)", "%s at the start, %s at the end" % (load_at_start, load_average())),
     ]
+    busy = busy_note(load_at_start, load_average())
+    if busy:
+        lines.append(("other work", busy))
     if note:
         lines.append(("conditions", note))
     return {"date": datetime.datetime.now(datetime.timezone.utc).strftime("%Y-%m-%d %H:%M UTC"),
