@@ -18,7 +18,7 @@ std::vector<InPlaceWriter::BytePatch> patchesForTexts(const DateLocations& where
   if (!anyEntry) return patches;
   for (const DateTargets::Target& t : DateTargets::kTargets) {
     const std::optional<std::string>& text = texts[t.index];
-    const std::optional<std::uint32_t>& offset = where.valueOffsets[t.index];
+    const std::optional<std::uint64_t>& offset = where.valueOffsets[t.index];
     // An item has a text only for a date its file has; the entry check is
     // kept anyway so that a broken invariant cannot write at a guessed place.
     if (!text || !offset || text->size() < kDateLength || !isAscii(*text)) continue;

@@ -20,7 +20,7 @@ inline constexpr std::size_t kDateLength = 19;
 // where the file has no such entry, and the TIFF header's file position.
 struct DateLocations {
   std::uint64_t tiffHeaderLocation = 0;
-  std::array<std::optional<std::uint32_t>, DateTargets::kCount> valueOffsets{};
+  std::array<std::optional<std::uint64_t>, DateTargets::kCount> valueOffsets{};
 };
 
 // The patches for the item texts: a text that is absent, shorter than 19

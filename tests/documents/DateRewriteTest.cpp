@@ -11,7 +11,7 @@ namespace {
 const std::string kA = "2001:02:03 04:05:06";
 const std::string kB = "2011:12:13 14:15:16";
 
-using Offset = std::optional<std::uint32_t>;
+using Offset = std::optional<std::uint64_t>;
 DateLocations at(std::uint64_t header, Offset original, Offset digitized, Offset edited) {
   DateLocations where;
   where.tiffHeaderLocation = header;

@@ -1,0 +1,99 @@
+#include "documents/LumFileItemDoc.h"
+
+#include <QString>
+
+#include "documents/DateRewrite.h"
+
+namespace {
+
+constexpr LumDateField kFields[DateTargets::kCount] = {LumDateField::DateTimeOriginal, LumDateField::DateTimeDigitized,
+                                                       LumDateField::DateTime};
+
+int sign(int value) { return (value > 0) - (value < 0); }
+
+int caseInsensitiveCompare(const std::string& a, const std::string& b) {
+  return sign(QString::fromStdString(a).compare(QString::fromStdString(b), Qt::CaseInsensitive));
+}
+
+}  // namespace
+
+LumFileItemDoc::LumFileItemDoc(std::filesystem::path url, std::unique_ptr<LumImageFile> imageFile)
+    : url_(std::move(url)), imageFile_(std::move(imageFile)) {
+  imageFile_->setOwnerDocument(this);
+  for (const DateTargets::Target& t : DateTargets::kTargets) texts_[t.index] = originalText(t.index);
+}
+
+LumFileItemDoc::~LumFileItemDoc() = default;
+
+void LumFileItemDoc::replaceImageFile(std::unique_ptr<LumImageFile> imageFile) {
+  const bool edit = isEdit();
+  imageFile_ = std::move(imageFile);
+  imageFile_->setOwnerDocument(this);
+  imageFile_->setEdit(edit);
+}
+
+void LumFileItemDoc::setDateText(DateTargets::Index which, std::optional<std::string> text) {
+  std::optional<std::string>& stored = texts_[which];
+  if (text && stored && stored->size() >= 20 && text->size() == 19) {
+    stored = *text + stored->substr(19);
+    return;
+  }
+  stored = std::move(text);
+}
+
+const std::optional<std::string>& LumFileItemDoc::originalText(DateTargets::Index which) const {
+  return imageFile_->originalString(kFields[which]);
+}
+
+bool LumFileItemDoc::isEdited() const {
+  for (const DateTargets::Target& t : DateTargets::kTargets) {
+    const std::optional<std::string>& original = originalText(t.index);
+    if (original && original != texts_[t.index]) return true;
+  }
+  return false;
+}
+
+bool LumFileItemDoc::noDateTimes() const {
+  for (const std::optional<std::string>& text : texts_)
+    if (text) return false;
+  return true;
+}
+
+std::vector<InPlaceWriter::BytePatch> LumFileItemDoc::datePatches() const {
+  DateRewrite::DateLocations where;  // the file gives absolute positions
+  for (const DateTargets::Target& t : DateTargets::kTargets)
+    where.valueOffsets[t.index] = imageFile_->dateValueOffset(kFields[t.index]);
+  return DateRewrite::patchesForTexts(where, texts_);
+}
+
+int LumFileItemDoc::compareForFileName(const LumFileItemDoc& other) const {
+  if (const int byName = caseInsensitiveCompare(fileName(), other.fileName())) return byName;
+  return caseInsensitiveCompare(url_.string(), other.url_.string());
+}
+
+int LumFileItemDoc::compareForDate(const LumFileItemDoc& other, DateTargets::Index which) const {
+  const std::optional<std::string>& mine = texts_[which];
+  const std::optional<std::string>& theirs = other.texts_[which];
+  if (mine && theirs) return sign(mine->compare(*theirs));
+  if (mine) return -1;  // a date sorts before no date
+  if (theirs) return 1;
+  return 0;
+}
+
+int LumFileItemDoc::compareForDateTime(const LumFileItemDoc& o) const { return compareForDate(o, DateTargets::Edited); }
+int LumFileItemDoc::compareForDateTimeDigitized(const LumFileItemDoc& o) const {
+  return compareForDate(o, DateTargets::Digitized);
+}
+int LumFileItemDoc::compareForDateTimeOriginal(const LumFileItemDoc& o) const {
+  return compareForDate(o, DateTargets::Original);
+}
+
+int LumFileItemDoc::compareForEdited(const LumFileItemDoc& other) const {
+  if (isEdited() != other.isEdited()) return isEdited() ? -1 : 1;
+  return compareForFileName(other);
+}
+
+int LumFileItemDoc::compareForEdit(const LumFileItemDoc& other) const {
+  if (isEdit() != other.isEdit()) return isEdit() ? -1 : 1;
+  return compareForFileName(other);
+}

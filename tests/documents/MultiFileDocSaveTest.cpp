@@ -1,0 +1,208 @@
+#include <QEventLoop>
+#include <QSignalSpy>
+#include <QTimer>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "PhotoFiles.h"
+#include "documents/LumMultiFileDoc.h"
+#include "documents/LumNotificationCenter.h"
+
+using namespace doctest_support;
+using Doc = LumMultiFileDoc;
+
+namespace {
+
+const std::string kA = "2020:01:31 10:00:00";
+const std::string kB = "2019:12:31 23:30:00";
+
+// Byte positions where two files differ.
+std::vector<std::size_t> differences(const std::vector<std::uint8_t>& a, const std::vector<std::uint8_t>& b) {
+  std::vector<std::size_t> at;
+  for (std::size_t i = 0; i < std::min(a.size(), b.size()); ++i)
+    if (a[i] != b[i]) at.push_back(i);
+  return at;
+}
+
+std::size_t find(const std::vector<std::uint8_t>& bytes, const std::string& text) {
+  const auto it = std::search(bytes.begin(), bytes.end(), text.begin(), text.end());
+  return static_cast<std::size_t>(it - bytes.begin());
+}
+
+struct SaveFixture : ::testing::Test {
+  TempFolder folder;
+  std::unique_ptr<Doc> doc;
+
+  void SetUp() override { ensureApplication(); }
+
+  void open(const std::vector<std::pair<std::string, PhotoDates>>& photos) {
+    std::vector<std::unique_ptr<LumFileItemDoc>> items;
+    for (const auto& [name, dates] : photos) items.push_back(openItem(writePhoto(folder, name, dates)));
+    doc = std::make_unique<Doc>(std::move(items));
+  }
+  // Runs a save and waits for its outcome.
+  LumSaveOutcome save(bool all = true) {
+    LumSaveOutcome outcome;
+    QEventLoop loop;
+    QObject::connect(doc.get(), &Doc::saveFinished, &loop, [&](const LumSaveOutcome& o) {
+      outcome = o;
+      loop.quit();
+    });
+    QTimer::singleShot(20000, &loop, &QEventLoop::quit);
+    EXPECT_TRUE(doc->saveFileAll(all, false, false));
+    if (doc->isSaving()) loop.exec();
+    return outcome;
+  }
+  LumFileItemDoc& item(const std::string& name) { return *doc->itemForURL(folder / name); }
+};
+
+TEST_F(SaveFixture, ChangesExactlyTheChangedDatesAndRereadsTheFile) {
+  open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, kB, kB}}});
+  const auto beforeA = readBytes(folder / "a.jpg");
+  const auto beforeB = readBytes(folder / "b.jpg");
+  doc->controlTextDidEndEditing(*doc->rowOf(&item("a.jpg")), "DateTimeOriginal", "2001:02:03 04:05:06", false);
+  doc->setEditStateOnAllFiles();
+  doc->setEditTargetMask(2);  // digitized only
+  doc->setFieldValue(Doc::Second, 1);
+  doc->applyToAllFiles();
+  ASSERT_EQ(doc->editedFileCount(), 2u);
+
+  QSignalSpy progress(doc.get(), &Doc::savingProgress);
+  QSignalSpy started(doc.get(), &Doc::savingStarted);
+  std::vector<QString> notices;
+  const auto connection = QObject::connect(&LumNotificationCenter::defaultCenter(), &LumNotificationCenter::posted,
+                                           [&](const QString& name, const void*) { notices.push_back(name); });
+  const LumSaveOutcome outcome = save();
+  EXPECT_EQ(outcome.total, 2u);
+  EXPECT_TRUE(outcome.failures.empty());
+  EXPECT_FALSE(outcome.alert);
+
+  // a.jpg: its original and its digitized date; b.jpg: its digitized date.
+  const auto afterA = readBytes(folder / "a.jpg");
+  const auto afterB = readBytes(folder / "b.jpg");
+  ASSERT_EQ(afterA.size(), beforeA.size());
+  ASSERT_EQ(afterB.size(), beforeB.size());
+  const std::size_t originalAt = *item("a.jpg").imageFile().dateValueOffset(LumDateField::DateTimeOriginal);
+  const std::size_t digitizedAt = *item("a.jpg").imageFile().dateValueOffset(LumDateField::DateTimeDigitized);
+  std::vector<std::size_t> expectedA;
+  for (std::size_t i = 0; i < 19; ++i) expectedA.push_back(std::min(originalAt, digitizedAt) + i);
+  for (std::size_t i = 0; i < 19; ++i) expectedA.push_back(std::max(originalAt, digitizedAt) + i);
+  const auto changedA = differences(beforeA, afterA);
+  // A changed date may share leading characters with the old one.
+  for (std::size_t at : changedA) EXPECT_NE(std::find(expectedA.begin(), expectedA.end(), at), expectedA.end()) << at;
+  EXPECT_EQ(find(afterA, "2001:02:03 04:05:06"), originalAt);
+  EXPECT_EQ(find(afterA, "2020:01:31 10:00:01"), digitizedAt);
+  EXPECT_EQ(afterA[originalAt + 19], 0);
+  // "2019:12:31 23:30:00" + 1 s changes one character.
+  const std::size_t digitizedB = *item("b.jpg").imageFile().dateValueOffset(LumDateField::DateTimeDigitized);
+  EXPECT_EQ(differences(beforeB, afterB), std::vector<std::size_t>{digitizedB + 18});
+  EXPECT_EQ(find(afterB, "2019:12:31 23:30:01"), digitizedB);
+
+  // The models now hold the saved files; nothing is edited, nothing undoable.
+  EXPECT_FALSE(doc->hasEditedFile());
+  EXPECT_EQ(doc->undoStack().count(), 0);
+  EXPECT_EQ(item("a.jpg").imageFile().originalDateTimeOriginalString(), "2001:02:03 04:05:06");
+  EXPECT_EQ(item("a.jpg").imageFile().stampAsOpened(), lum::FileStamp::of(folder / "a.jpg"));
+  ASSERT_EQ(started.count(), 1);
+  EXPECT_EQ(started[0][0].toInt(), 2);
+  ASSERT_EQ(progress.count(), 2);
+  EXPECT_DOUBLE_EQ(progress[0][0].toDouble(), 50.0);
+  EXPECT_DOUBLE_EQ(progress[1][0].toDouble(), 100.0);
+  QObject::disconnect(connection);
+  EXPECT_EQ(notices, std::vector<QString>{kLumImageFileDidSaveNotification});
+
+  // A second edit saves against the re-read file.
+  doc->controlTextDidEndEditing(*doc->rowOf(&item("a.jpg")), "DateTime", "1999:09:09 09:09:09", false);
+  EXPECT_TRUE(save().failures.empty());
+  EXPECT_EQ(find(readBytes(folder / "a.jpg"), "1999:09:09 09:09:09"),
+            *item("a.jpg").imageFile().dateValueOffset(LumDateField::DateTime));
+}
+
+struct FailureCase {
+  const char* name;
+  std::function<void(const std::filesystem::path&)> change;
+  std::string reason;
+};
+
+TEST_F(SaveFixture, AFileThatCannotBeSavedIsReportedWhileTheOthersAreSaved) {
+  const std::vector<FailureCase> cases{
+      {"deleted", [](const auto& p) { std::filesystem::remove(p); }, ""},
+      {"changed on disk", [](const auto& p) { std::ofstream(p, std::ios::app) << "more"; },
+       InPlaceWriter::kChangedOnDiskReason},
+      {"read-only", [](const auto& p) { ::chmod(p.c_str(), 0444); }, InPlaceWriter::kReadOnlyReason},
+  };
+  for (const FailureCase& c : cases) {
+    SCOPED_TRACE(c.name);
+    open({{"bad.jpg", {kA, kA, kA}}, {"good.jpg", {kB, kB, kB}}});
+    doc->setEditStateOnAllFiles();
+    doc->setFieldValue(Doc::Hour, 2);
+    doc->applyToAllFiles();
+    c.change(folder / "bad.jpg");
+    const bool exists = std::filesystem::exists(folder / "bad.jpg");
+    const auto badBefore = exists ? readBytes(folder / "bad.jpg") : std::vector<std::uint8_t>{};
+
+    const LumSaveOutcome outcome = save();
+    ASSERT_EQ(outcome.failures.size(), 1u);
+    EXPECT_EQ(outcome.failures[0].path, folder / "bad.jpg");
+    EXPECT_EQ(outcome.failures[0].reason, c.reason);
+    ASSERT_TRUE(outcome.alert);
+    EXPECT_EQ(outcome.alert->message, "Save a file Failed. (bad.jpg)");
+    EXPECT_EQ(outcome.alert->informativeText, QString::fromStdString("Save Completed: 1\n\n" + c.reason));
+    if (exists) {
+      EXPECT_EQ(readBytes(folder / "bad.jpg"), badBefore);
+    }
+    EXPECT_NE(find(readBytes(folder / "good.jpg"), "2020:01:01 01:30:00"), readBytes(folder / "good.jpg").size());
+    // The failed file stays edited and can be saved again; the undo history is gone.
+    EXPECT_TRUE(item("bad.jpg").isEdited());
+    EXPECT_FALSE(item("good.jpg").isEdited());
+    EXPECT_EQ(doc->undoStack().count(), 0);
+    ::chmod((folder / "bad.jpg").c_str(), 0644);
+  }
+}
+
+TEST_F(SaveFixture, AWriteThatFailsPartWayLeavesTheFileAsItWas) {
+  open({{"a.jpg", {kA, kA, kA}}});
+  const auto before = readBytes(folder / "a.jpg");
+  doc->setEditStateOnAllFiles();
+  doc->setFieldValue(Doc::Year, 3);
+  doc->applyToAllFiles();
+  int calls = 0;
+  doc->setWriteFunction([&calls](int fd, const void* buffer, std::size_t count, off_t offset) -> ssize_t {
+    if (calls++ == 0) return ::pwrite(fd, buffer, std::min<std::size_t>(count, 7), offset);
+    if (calls == 2) {
+      errno = EIO;
+      return -1;
+    }
+    return ::pwrite(fd, buffer, count, offset);
+  });
+  const LumSaveOutcome outcome = save();
+  ASSERT_EQ(outcome.failures.size(), 1u);
+  EXPECT_EQ(outcome.failures[0].reason, std::system_category().message(EIO));
+  EXPECT_EQ(readBytes(folder / "a.jpg"), before);
+  EXPECT_TRUE(doc->hasEditedFile());
+}
+
+TEST_F(SaveFixture, SavingTheSelectionOnly) {
+  open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, kB, kB}}});
+  const auto beforeB = readBytes(folder / "b.jpg");
+  doc->setEditStateOnAllFiles();
+  doc->setFieldValue(Doc::Day, 1);
+  doc->applyToAllFiles();
+  doc->setSelectedRows({});
+  QSignalSpy started(doc.get(), &Doc::savingStarted);
+  EXPECT_TRUE(doc->saveFileAll(false, false, false));  // nothing edited among the selection
+  EXPECT_FALSE(doc->isSaving());
+  EXPECT_EQ(started.count(), 0);
+
+  doc->setSelectedRows({*doc->rowOf(&item("a.jpg"))});
+  QSignalSpy progress(doc.get(), &Doc::savingProgress);
+  const LumSaveOutcome outcome = save(false);
+  EXPECT_EQ(outcome.total, 1u);
+  EXPECT_EQ(progress.count(), 0);  // one file: no progress
+  EXPECT_EQ(readBytes(folder / "b.jpg"), beforeB);
+  EXPECT_FALSE(item("a.jpg").isEdited());
+  EXPECT_TRUE(item("b.jpg").isEdited());
+}
+
+}  // namespace
