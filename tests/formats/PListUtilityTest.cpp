@@ -6,7 +6,6 @@
 #include <string>
 
 #include "formats/OrbNSXMLElementUtility.h"
-#include "formats/OrbXMP.h"
 #include "formats/PListUtility.h"
 
 namespace {
@@ -68,14 +67,6 @@ TEST(XMLChildren, LookupByQualifiedName) {
   EXPECT_EQ(std::string(reinterpret_cast<const char*>(descriptions[1]->properties->children->content)), "2");
   EXPECT_EQ(OrbNSXMLElementUtility::orb_childNodeWithName(rdf, "Description"), nullptr);
   EXPECT_TRUE(OrbNSXMLElementUtility::orb_childrenNodeWithName(rdf, "rdf:Missing").empty());
-}
-
-TEST(XMPObject, ChildrenKey) {
-  OrbXMP::Object dictionary;
-  EXPECT_EQ(OrbXMP::children(dictionary), nullptr);
-  dictionary.dictionary["children"].array.resize(2);
-  ASSERT_TRUE(OrbXMP::children(dictionary));
-  EXPECT_EQ(OrbXMP::children(dictionary)->array.size(), 2u);
 }
 
 }  // namespace

@@ -8,31 +8,11 @@
 
 #include "formats/OrbIPTCIIM.h"
 #include "formats/OrbPhotoshopFF.h"
+#include "RecordBytes.h"
 
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
-
-Bytes operator+(Bytes a, const Bytes& b) {
-  a.insert(a.end(), b.begin(), b.end());
-  return a;
-}
-
-Bytes be32(std::uint32_t v) {
-  return {static_cast<std::uint8_t>(v >> 24), static_cast<std::uint8_t>(v >> 16), static_cast<std::uint8_t>(v >> 8),
-          static_cast<std::uint8_t>(v)};
-}
-
-// A block as Photoshop writes it: "8BIM", id, name field, size, data, pad.
-Bytes block(std::uint16_t id, const std::string& name, const Bytes& data) {
-  Bytes out = Bytes{'8', 'B', 'I', 'M', static_cast<std::uint8_t>(id >> 8), static_cast<std::uint8_t>(id)};
-  out.push_back(static_cast<std::uint8_t>(name.size()));
-  out.insert(out.end(), name.begin(), name.end());
-  if (out.size() % 2) out.push_back(0);
-  out = out + be32(static_cast<std::uint32_t>(data.size())) + data;
-  if (data.size() % 2) out.push_back(0);
-  return out;
-}
+using namespace recordtest;
 
 Bytes app13(const Bytes& blocks) {
   const auto length = static_cast<std::uint16_t>(blocks.size() + 16);
@@ -109,8 +89,6 @@ TEST(PhotoshopWalk, NamesAndOddDataKeepTheirPadding) {
   // Names of odd and even length, odd data: each block must start where the
   // writer put it, or the ids after it come out wrong.
   const Bytes bytes = block(1060, "abc", {1, 2, 3}) + block(1028, "ab", {9}) + block(1005, "", Bytes(16, 0));
-  EXPECT_EQ(block(1, "abc", {}).size(), 4u + 2 + 4 + 4);
-  EXPECT_EQ(block(1, "ab", {}).size(), 4u + 2 + 4 + 4);
   const OrbPhotoshopFF ff = walk(bytes);
   EXPECT_EQ(ids(ff), (std::vector<std::uint16_t>{1005, 1028, 1060}));
   EXPECT_EQ(ff.imageResourceBlockWithIRBID(1060)->name(), "abc");
@@ -160,21 +138,6 @@ TEST(PhotoshopList, ReplaceRemoveAndCopy) {
   ff.rmoveIRBWithID(1028);
   ASSERT_EQ(ff.IRBs().size(), 2u);
   EXPECT_EQ(*ff.IRBs()[1].dataValue(), Bytes{2});
-  ff.rmoveIRBWithID(4242);
-  EXPECT_EQ(ff.IRBs().size(), 2u);
-
-  const OrbPhotoshopFF copy = ff;
-  ff.rmoveIRBWithID(1005);
-  EXPECT_EQ(copy.IRBs().size(), 2u);
-}
-
-TEST(PhotoshopBlock, EqualityIgnoresSignatureAndOrderIsById) {
-  const OrbImageResourceBlock a(0x3842494D, 1028, "n", Bytes{1});
-  EXPECT_TRUE(a.isEqualToIRB(OrbImageResourceBlock(0, 1028, "n", Bytes{1})));
-  EXPECT_FALSE(a.isEqualToIRB(OrbImageResourceBlock(0, 1028, std::nullopt, Bytes{1})));
-  EXPECT_FALSE(a.isEqualToIRB(OrbImageResourceBlock(0, 1028, "n", Bytes{2})));
-  EXPECT_EQ(a.compare(OrbImageResourceBlock(0, 1029, "", Bytes{})), -1);
-  EXPECT_EQ(OrbImageResourceBlock(0, 0xFFFF, "", Bytes{}).compare(a), 1);
 }
 
 TEST(PhotoshopList, IPTCComesOnlyFromBlock1028) {
@@ -190,11 +153,8 @@ TEST(PhotoshopList, IPTCComesOnlyFromBlock1028) {
 
 TEST(PhotoshopTitles, TableThenRangesThenUnknown) {
   const std::pair<std::uint16_t, const char*> cases[] = {
-      {1000, "Info (Photoshop 2.0)"}, {1004, "Unknown"},       {1028, "IPTC IIM"},
-      {1058, "Exif"},                 {1059, "Exif"},          {1082, "Print Info"},
-      {2000, "Path Info"},            {2998, "Path Info"},     {2999, "Name of Clipping Path"},
-      {3000, "Unknown"},              {4000, "Plug-In resources"}, {4999, "Plug-In resources"},
-      {5000, "Unknown"},              {10000, "Print Flags Info"},
+      {1004, "Unknown"},   {1059, "Exif"},    {2998, "Path Info"},         {2999, "Name of Clipping Path"},
+      {3000, "Unknown"},   {4999, "Plug-In resources"}, {5000, "Unknown"},
   };
   for (const auto& [id, title] : cases) EXPECT_EQ(OrbImageResourceBlock::titleWithID(id), title) << id;
 }
@@ -210,20 +170,13 @@ TEST(PhotoshopDescriptions, DecodedLayoutsAndTheNameAndSizeFallback) {
   };
   const Case cases[] = {
       {1005, {}, resolution, "72ppi x 72.5ppc, Display width as inches, height as 9"},
-      {1005, {}, Bytes(15, 0), ", Data size: 15 bytes"},
       {1011, {}, {1, 0, 1, 0, 0, 0, 1, 0}, "Labels:YES, Crop Marks:NO, Color Bars:YES, Registration Marks:NO, "
                                            "Negative:NO, Flip:NO, Interpolate:YES, Caption:NO"},
       {1010, {}, {0, 2, 0, 1, 0, 2, 0, 3, 0, 4}, "CMYK <1, 2, 3, 4>"},
-      {1024, {}, {0, 3}, "Index of target layer: 3"},
       {1028, {}, {1, 2}, "IPTC Information Interchange Model"},
       {1032, {}, be32(1) + be32(0x0A0B0C0D) + be32(0x00000240) + be32(2),
        "[Version: 1]  [Grid Cycle: 0xABCD 0x00240]  [Guide Count: 2]"},
-      {1034, {}, {1}, "YES"},
-      {1035, {}, {'h', 't', 't', 'p'}, "http"},
-      {1044, {}, be32(4000000000u), "4000000000"},
-      {1041, {}, {1}, "Intentionally Untagged"},
       {1050, {}, be32(7), "[Version: 7]"},
-      {1054, {}, be32(3), "List Count: 3"},
       {1057, {}, be32(1) + Bytes{1} + be32(1) + Bytes{0, 'W'} + be32(2) + Bytes{0, 'R', 0, 'd'} + be32(1),
        "[Version: 1] [Has Real Merged Data: YES] [Writer: W] [Reader: Rd] [File Version: 1]"},
       {1061, {}, {0x0A, 0xFF, 0x00}, "0AFF00"},

@@ -5,18 +5,11 @@
 #include <vector>
 
 #include "formats/TiffRecords.h"
+#include "RecordBytes.h"
 
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
-
-Bytes operator+(Bytes a, const Bytes& b) {
-  a.insert(a.end(), b.begin(), b.end());
-  return a;
-}
-
-Bytes be16(std::uint16_t v) { return {static_cast<std::uint8_t>(v >> 8), static_cast<std::uint8_t>(v)}; }
-Bytes be32(std::uint32_t v) { return be16(static_cast<std::uint16_t>(v >> 16)) + be16(static_cast<std::uint16_t>(v)); }
+using namespace recordtest;
 
 const Bytes kIPTC{0x1C, 2, 5, 0, 4, 'T', 'e', 's', 't', 0x1C, 2, 25, 0, 3, 'a', 'b', 'c', 0};
 // A 1005 block and a 1028 block holding kIPTC, in id order, so that they
