@@ -1,4 +1,11 @@
 # One line per fuzz target: lumidate_fuzz_target(<file name in targets/> DEPS <libraries>)
-# whole-files: (names of the targets that take whole photo files; their corpus also starts from the real camera files)
+# whole-files: image_file tiff_block
 lumidate_fuzz_target(date_text DEPS lumidate_datetime)
 lumidate_fuzz_target(offset_text DEPS lumidate_datetime)
+lumidate_fuzz_target(normalized_date DEPS lumidate_documents)
+lumidate_fuzz_target(photoshop_blocks DEPS lumidate_formats)
+lumidate_fuzz_target(iptc_records DEPS lumidate_formats)
+lumidate_fuzz_target(jfif_record DEPS lumidate_formats)
+lumidate_fuzz_target(tiff_block DEPS lumidate_core)
+lumidate_fuzz_target(image_file DEPS lumidate_documents)
+lumidate_fuzz_target(plist_xml DEPS lumidate_formats)

@@ -1,0 +1,52 @@
+// The TIFF structure of a block: header, IFD chain and sub-IFDs.
+//
+// Must hold: every out-of-line value kept is a copy of bytes that lie inside
+// the block at the entry's offset from the header, never more than the entry
+// claims; every entry can be shown as text; a copy holds the same entries.
+#include <algorithm>
+#include <cstdint>
+
+#include "FuzzCheck.h"
+#include "core/ByteView.h"
+#include "core/OrbTiff.h"
+
+namespace {
+
+void checkEntry(const OrbIFDEntry& entry, orb::ByteView block, std::uint64_t header) {
+  if (entry.hasValue()) {
+    const std::uint64_t at = header + entry.data();
+    FUZZ_CHECK(entry.value().size() <= entry.byteCount());
+    const auto inBlock = block.bytes(at, entry.value().size());
+    FUZZ_CHECK(inBlock.has_value());
+    FUZZ_CHECK(std::equal(inBlock->begin(), inBlock->end(), entry.value().begin(), entry.value().end()));
+  }
+  FUZZ_CHECK(entry.valueBytes().size() <= std::max<std::size_t>(entry.byteCount(), 4));
+  (void)entry.stringData();
+  (void)entry.description();
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  if (size < 2) return 0;
+  // A whole TIFF file has its header at 0; for anything else the first byte
+  // says where the header starts in the rest, as inside an APP1 segment.
+  const bool wholeFile = (data[0] == 'I' && data[1] == 'I') || (data[0] == 'M' && data[1] == 'M');
+  const std::uint64_t location = wholeFile ? 0 : data[0] % 16;
+  const orb::ByteView block = wholeFile ? orb::ByteView(data, size) : orb::ByteView(data + 1, size - 1);
+  const auto tiff = OrbTiff::exifWithPtr(block, &location, block.size());
+  if (!tiff) return 0;
+  FUZZ_CHECK(tiff->tiffHeaderLocation() == location);
+  const auto* ifds = tiff->IFDs();
+  if (!ifds) return 0;
+  for (const OrbIFDMap& map : *ifds)
+    for (const auto& [key, entry] : map) {
+      FUZZ_CHECK(key == entry.itemKey());
+      checkEntry(entry, block, location);
+    }
+  const auto copy = tiff->mutableCopy();
+  FUZZ_CHECK(copy->IFDs() && copy->IFDs()->size() == ifds->size());
+  (void)tiff->exifVersion();
+  (void)tiff->hasExifVersionNotAllowedUTF8();
+  return 0;
+}
