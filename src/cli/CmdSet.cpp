@@ -1,0 +1,83 @@
+// lumidate-cli set --to "yyyy:MM:dd HH:mm:ss" [--only LIST] [--dry-run] PATH...
+// Sets the dates of photos to one date and time, in place.
+#include <QCommandLineParser>
+#include <QTextStream>
+
+#include "cli/Commands.h"
+#include "cli/DateBatch.h"
+#include "documents/DateTextRules.h"
+
+namespace {
+
+const char* const kExamples =
+    "\nExamples:\n"
+    "  lumidate-cli set --to \"2023:07:14 18:30:00\" scan-001.tif scan-002.tif\n"
+    "      give both scans all three dates 2023:07:14 18:30:00\n"
+    "  lumidate-cli set --to \"1999:12:31 23:59:59\" --only original --dry-run old/\n"
+    "      show what DateTimeOriginal of every photo in old/ would become\n"
+    "\nOnly dates a file already has are set; a missing date stays missing.\n"
+    "Exit status 1 when some files could not be saved, 2 for a usage error.\n";
+
+int usage(const QString& message) {
+  QTextStream(stderr) << "lumidate-cli set: " << message << '\n'
+                      << "Usage: lumidate-cli set --to \"yyyy:MM:dd HH:mm:ss\" [--only LIST] [--dry-run] PATH...\n";
+  return 2;
+}
+
+// Exactly "yyyy:MM:dd HH:mm:ss" naming a real date and time of years 1..9999.
+std::optional<std::array<long, 6>> parseTime(const QString& text) {
+  static constexpr std::array<int, 6> kStarts{0, 5, 8, 11, 14, 17};
+  static constexpr std::array<int, 6> kWidths{4, 2, 2, 2, 2, 2};
+  if (text.size() != 19 || text[4] != ':' || text[7] != ':' || text[10] != ' ' || text[13] != ':' || text[16] != ':')
+    return std::nullopt;
+  std::array<long, 6> fields{};
+  for (std::size_t i = 0; i < 6; ++i) {
+    const QString part = text.mid(kStarts[i], kWidths[i]);
+    if (!std::all_of(part.begin(), part.end(), [](QChar c) { return c >= '0' && c <= '9'; })) return std::nullopt;
+    fields[i] = part.toLong();
+    if (!kSetTimeFieldLimits[i].accepts(fields[i])) return std::nullopt;
+  }
+  if (fields[2] > DateTextRules::monthLength(fields[0], fields[1])) return std::nullopt;
+  return fields;
+}
+
+}  // namespace
+
+namespace cli {
+
+int runSet(const QStringList& args) {
+  QCommandLineParser parser;
+  parser.setApplicationDescription("Sets the dates of photo files to one date and time.");
+  parser.addHelpOption();
+  parser.addOption({"to", "The date and time to set, exactly \"yyyy:MM:dd HH:mm:ss\".", "TIME"});
+  parser.addOption({"only", "Dates to change: a comma-separated subset of original,digitized,edited (default: all).",
+                    "LIST"});
+  parser.addOption({"dry-run", "Print old and new dates without writing."});
+  parser.addPositionalArgument("PATH", "Photo files or folders (searched at any depth).", "PATH...");
+  if (!parser.parse(args)) return usage(parser.errorText());
+  if (parser.isSet("help")) {
+    QString help = parser.helpText();
+    help.replace(0, help.indexOf('\n'), "Usage: lumidate-cli set [options] PATH...");
+    QTextStream(stdout) << help << kExamples;
+    return 0;
+  }
+  if (!parser.isSet("to")) return usage("--to is required");
+  const std::optional<std::array<long, 6>> fields = parseTime(parser.value("to"));
+  if (!fields) return usage("--to takes a real date and time as \"yyyy:MM:dd HH:mm:ss\", not '" + parser.value("to") + "'");
+
+  DateBatchRequest request;
+  request.command = "set";
+  request.mode = LumActionMode::SetTime;
+  request.fields = *fields;
+  if (parser.isSet("only")) {
+    const std::optional<unsigned> mask = parseTargetList(parser.value("only"));
+    if (!mask) return usage("--only takes a comma-separated subset of original,digitized,edited");
+    request.targetMask = *mask;
+  }
+  request.dryRun = parser.isSet("dry-run");
+  request.paths = parser.positionalArguments();
+  if (request.paths.isEmpty()) return usage("no PATH given");
+  return runDateBatch(request);
+}
+
+}  // namespace cli
