@@ -170,7 +170,7 @@ class ReportTest(unittest.TestCase):
                                            program("exiftool", "peer", [300.0]),
                                            program("jhead", "peer", [15.0])]}
         results = {"read": {"small": small}, "shift": {"large": shift},
-                   "model": {"load_s": 3.0, "apply_s": 0.05, "thumbs_per_s": 100.0}}
+                   "model": {"load_s": 3.0, "apply_s": 0.05, "thumbs_per_s": 100.0, "files": 10}}
         rows = {r[0]: r for r in report.goal_rows(results)}
         self.assertEqual(rows["dates / floor read, small set (≤ 1.5x)"][1:], ["1.20x", "met"])
         self.assertEqual(rows["dates / floor read, large set (≤ 1.5x)"][1], "not measured")
@@ -179,8 +179,8 @@ class ReportTest(unittest.TestCase):
         self.assertEqual(rows["jhead shift / Lumidate shift, large set (≥ 20x)"][1:], ["10.00x", "**missed**"])
         self.assertEqual(rows["peak RSS of dates over the small set (< 150 MB)"][2], "**missed**")
         self.assertEqual(rows["model load / dates, small set (≤ 2x)"][1:], ["2.50x", "**missed**"])
-        self.assertEqual(rows["model apply over the small set (< 100 ms)"][2], "met")
-        self.assertEqual(rows["model undo over the small set (< 100 ms)"][1], "not measured")
+        self.assertEqual(rows["model apply over 10 files (< 100 ms at 10,000)"][2], "met")
+        self.assertEqual(rows["model undo over 10 files (< 100 ms at 10,000)"][1], "not measured")
         self.assertEqual(rows["thumbnails of 12 MP files per second, all cores (≥ 150)"][2], "**missed**")
 
 
