@@ -1,0 +1,154 @@
+// lumidate-cli dates [--json] PATH...
+// Shows the three dates and the sub-second texts of each photo as the file
+// model keeps them when it opens the file. Folders are searched at any depth;
+// files are opened in parallel on all cores.
+#include <QCommandLineParser>
+#include <QTextStream>
+
+#include <algorithm>
+#include <atomic>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+#include "cli/Commands.h"
+#include "formats/FileExpansion.h"
+#include "formats/LumImageFile.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Outcome {
+  fs::path path;
+  std::unique_ptr<LumImageFile> file;
+  LumError error;
+};
+
+std::vector<Outcome> openAll(const std::vector<fs::path>& paths) {
+  std::vector<Outcome> outcomes(paths.size());
+  std::atomic<std::size_t> next{0};
+  const auto work = [&] {
+    for (std::size_t i = next++; i < paths.size(); i = next++) {
+      outcomes[i].path = paths[i];
+      outcomes[i].file = LumImageFile::imageFileWithURL(paths[i], &outcomes[i].error);
+    }
+  };
+  const unsigned workers = std::max(1u, std::min<unsigned>(std::thread::hardware_concurrency(),
+                                                          static_cast<unsigned>(paths.size())));
+  std::vector<std::jthread> threads;
+  for (unsigned i = 1; i < workers; ++i) threads.emplace_back(work);
+  work();
+  return outcomes;
+}
+
+nlohmann::ordered_json textOrNull(const std::optional<std::string>& text) {
+  return text ? nlohmann::ordered_json(*text) : nlohmann::ordered_json(nullptr);
+}
+
+nlohmann::ordered_json jsonFor(const Outcome& o) {
+  nlohmann::ordered_json j;
+  j["path"] = o.path.string();
+  if (!o.file) {
+    j["error"] = {{"domain", o.error.domain}, {"code", o.error.code}};
+    return j;
+  }
+  const LumImageFile& f = *o.file;
+  j["DateTimeOriginal"] = textOrNull(f.originalDateTimeOriginalString());
+  j["DateTimeDigitized"] = textOrNull(f.originalDateTimeDigitizedString());
+  j["DateTime"] = textOrNull(f.originalDateTimeString());
+  j["SubSecTimeOriginal"] = textOrNull(f.originalSubSecDateTimeOriginalString());
+  j["SubSecTimeDigitized"] = textOrNull(f.originalSubSecDateTimeDigitizedString());
+  j["SubSecTime"] = textOrNull(f.originalSubSecDateTimeString());
+  j["editable"] = f.isEdit();
+  return j;
+}
+
+// A date with its sub-second text, or "-" when the date is not kept.
+QString dateColumn(const std::optional<std::string>& date, const std::optional<std::string>& subSec) {
+  if (!date) return QStringLiteral("-");
+  QString text = QString::fromStdString(*date);
+  if (subSec && !subSec->empty()) text += '.' + QString::fromStdString(*subSec);
+  return text;
+}
+
+void printPlain(const std::vector<Outcome>& outcomes) {
+  qsizetype pathWidth = 0;
+  for (const Outcome& o : outcomes)
+    if (o.file) pathWidth = std::max(pathWidth, QString::fromStdString(o.path.string()).size());
+  QTextStream out(stdout);
+  for (const Outcome& o : outcomes) {
+    if (!o.file) continue;
+    const LumImageFile& f = *o.file;
+    out << QString::fromStdString(o.path.string()).leftJustified(pathWidth) << "  "
+        << dateColumn(f.originalDateTimeOriginalString(), f.originalSubSecDateTimeOriginalString()).leftJustified(23)
+        << "  "
+        << dateColumn(f.originalDateTimeDigitizedString(), f.originalSubSecDateTimeDigitizedString()).leftJustified(23)
+        << "  " << dateColumn(f.originalDateTimeString(), f.originalSubSecDateTimeString()).leftJustified(23) << "  "
+        << (f.isEdit() ? "editable" : "not editable") << '\n';
+  }
+}
+
+void reportFailures(const std::vector<Outcome>& outcomes) {
+  QTextStream err(stderr);
+  for (const Outcome& o : outcomes) {
+    if (o.file) continue;
+    err << "lumidate-cli: " << QString::fromStdString(o.path.string()) << ": cannot open ("
+        << QString::fromStdString(o.error.domain) << ' ' << o.error.code;
+    if (!o.error.reason.empty()) err << ", " << QString::fromStdString(o.error.reason);
+    err << ")\n";
+  }
+}
+
+}  // namespace
+
+namespace cli {
+
+int runDates(const QStringList& args) {
+  QCommandLineParser parser;
+  parser.setApplicationDescription("Shows the dates of photo files as Lumidate reads them.");
+  parser.addHelpOption();
+  parser.addOption({"json", "Print one JSON array instead of aligned lines."});
+  parser.addPositionalArgument("PATH", "Photo files or folders (searched at any depth).", "PATH...");
+  if (!parser.parse(args)) {
+    QTextStream(stderr) << "lumidate-cli dates: " << parser.errorText() << '\n';
+    return 2;
+  }
+  if (parser.isSet("help")) {
+    QTextStream(stdout) << parser.helpText().replace(args.first(), "lumidate-cli dates");
+    return 0;
+  }
+  const QStringList positional = parser.positionalArguments();
+  if (positional.isEmpty()) {
+    QTextStream(stderr) << "lumidate-cli dates: no PATH given\n" << "Usage: lumidate-cli dates [--json] PATH...\n";
+    return 2;
+  }
+  std::vector<fs::path> inputs;
+  for (const QString& p : positional) inputs.emplace_back(p.toStdString());
+  FileExpansion::Expansion expansion = FileExpansion::allPhotoPaths(inputs);
+  // A path that does not exist is reported like a file that cannot be read.
+  std::vector<fs::path> paths = expansion.files;
+  paths.insert(paths.end(), expansion.missing.begin(), expansion.missing.end());
+  std::stable_sort(paths.begin(), paths.end(), FileExpansion::naturalPathLess);
+
+  const std::vector<Outcome> outcomes = openAll(paths);
+  if (parser.isSet("json")) {
+    nlohmann::ordered_json array = nlohmann::ordered_json::array();
+    for (const Outcome& o : outcomes) array.push_back(jsonFor(o));
+    const std::string text = array.dump(2) + '\n';
+    std::fwrite(text.data(), 1, text.size(), stdout);
+  } else {
+    printPlain(outcomes);
+  }
+  reportFailures(outcomes);
+  const bool allOpened = std::all_of(outcomes.begin(), outcomes.end(), [](const Outcome& o) { return o.file != nullptr; });
+  return allOpened ? 0 : 1;
+}
+
+}  // namespace cli
