@@ -27,7 +27,7 @@ class Program:
         self.key, self.label, self.kind, self.argv = key, label, kind, argv
         self.probe, self.missing = probe, missing
         self.skip_reason = None
-        self.walls, self.rss_kb, self.start_walls = [], [], []
+        self.walls, self.rss_kb, self.start_walls, self.cpus = [], [], [], []
 
 
 def available(prog):
@@ -78,7 +78,7 @@ def shift_programs(cli, floor, date_at):
 
 def run_timed(argv, cwd, log_dir, tag):
     """Runs argv once; answers (wall seconds, peak RSS in KiB, exit status,
-    last line of its standard error)."""
+    last line of its standard error, user + system CPU seconds)."""
     time_out = os.path.join(log_dir, tag + ".time")
     err_path = os.path.join(log_dir, tag + ".stderr")
     with open(err_path, "wb") as err:
@@ -87,14 +87,16 @@ def run_timed(argv, cwd, log_dir, tag):
                                 stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
                                 stderr=err).returncode
         wall = time.perf_counter() - start
-    rss = 0
+    rss, cpu = 0, 0.0
     with open(time_out) as f:
         for line in f:
             if "Maximum resident set size" in line:
                 rss = int(line.rsplit(":", 1)[1])
+            elif "User time (seconds)" in line or "System time (seconds)" in line:
+                cpu += float(line.rsplit(":", 1)[1])
     with open(err_path, "rb") as f:
         lines = f.read().decode(errors="replace").strip().splitlines()
-    return wall, rss, status, (lines[-1] if lines else "")
+    return wall, rss, status, (lines[-1] if lines else ""), cpu
 
 
 def fresh_copy(source, target):
@@ -128,7 +130,7 @@ def measure_set(name, set_dir, first_dto, programs, runs, work_dir, log_dir, shi
         want_dto = (first + datetime.timedelta(hours=1)).strftime("%Y:%m:%d %H:%M:%S")
     elif active:
         for p in active:  # warm cache, and a first check that the program works
-            _, _, status, last = run_timed(p.argv + files, set_dir, log_dir, "%s-%s-warm" % (name, p.key))
+            _, _, status, last, _ = run_timed(p.argv + files, set_dir, log_dir, "%s-%s-warm" % (name, p.key))
             if status != 0:
                 p.skip_reason = "failed (exit %d): %s" % (status, last)
                 print("    %-34s skipped: %s" % (p.label, p.skip_reason), flush=True)
@@ -136,7 +138,7 @@ def measure_set(name, set_dir, first_dto, programs, runs, work_dir, log_dir, shi
     for run in range(runs if not shifting else 0):
         # The same program on one file: what starting the process costs.
         for p in active:
-            wall, _, status, _ = run_timed(p.argv + files[:1], set_dir, log_dir,
+            wall, _, status, _, _ = run_timed(p.argv + files[:1], set_dir, log_dir,
                                            "%s-%s-start-%d" % (name, p.key, run + 1))
             if status == 0:
                 p.start_walls.append(wall)
@@ -149,7 +151,7 @@ def measure_set(name, set_dir, first_dto, programs, runs, work_dir, log_dir, shi
                 cwd = os.path.join(work_dir, p.key)
                 fresh_copy(set_dir, cwd)
             tag = "%s-%s-%s-%d" % (name, "shift" if shifting else "read", p.key, run + 1)
-            wall, rss, status, last = run_timed(p.argv + files, cwd, log_dir, tag)
+            wall, rss, status, last, cpu = run_timed(p.argv + files, cwd, log_dir, tag)
             if status != 0:
                 p.skip_reason = "failed (exit %d): %s" % (status, last)
                 print("    %-34s skipped: %s" % (p.label, p.skip_reason), flush=True)
@@ -162,9 +164,10 @@ def measure_set(name, set_dir, first_dto, programs, runs, work_dir, log_dir, shi
                     continue
             p.walls.append(wall)
             p.rss_kb.append(rss)
+            p.cpus.append(cpu)
             print("    %-34s run %d: %8.3f s  %7.1f MB" % (p.label, run + 1, wall, rss / 1024.0), flush=True)
     if shifting:
         shutil.rmtree(work_dir, ignore_errors=True)
     return {"count": len(files), "programs": [
         {"key": p.key, "label": p.label, "kind": p.kind, "skip": p.skip_reason,
-         "walls": p.walls, "rss_kb": p.rss_kb, "start_walls": p.start_walls} for p in programs]}
+         "walls": p.walls, "rss_kb": p.rss_kb, "start_walls": p.start_walls, "cpus": p.cpus} for p in programs]}

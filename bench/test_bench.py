@@ -119,14 +119,16 @@ class FloorTest(unittest.TestCase):
             self.assertEqual(done.returncode, status, args)
 
 
-def program(key, kind, walls, skip=None, rss=None, starts=None):
+def program(key, kind, walls, skip=None, rss=None, cpus=None):
     return {"key": key, "label": key, "kind": kind, "skip": skip, "walls": walls,
-            "rss_kb": rss or [1024] * len(walls), "start_walls": starts or []}
+            "rss_kb": rss or [1024] * len(walls), "start_walls": [], "cpus": cpus or []}
 
 
 class ReportTest(unittest.TestCase):
     def test_summary_is_per_file_median_and_spread(self):
-        s = report.summary(program("x", "peer", [3.0, 1.0, 2.0], rss=[2048, 1024, 4096]), 1000)
+        s = report.summary(program("x", "peer", [3.0, 1.0, 2.0], rss=[2048, 1024, 4096],
+                                   cpus=[0.5, 0.7, 0.6]), 1000)
+        self.assertAlmostEqual(s["cpu"], 0.0006)
         self.assertAlmostEqual(s["median"], 0.002)
         self.assertAlmostEqual(s["min"], 0.001)
         self.assertAlmostEqual(s["max"], 0.003)
@@ -155,10 +157,10 @@ class ReportTest(unittest.TestCase):
             program("exiv2", "peer", [], skip="not installed"),
         ]}
         rows = {r[0]: r for r in report.section_rows("read", result)}
-        self.assertEqual(rows["lumidate"][4], "2.00x")
-        self.assertEqual(rows["jhead"][4], "6.00x")
-        self.assertEqual(rows["jhead"][5], "3.00x")
-        self.assertEqual(rows["lumidate"][5], "–")
+        self.assertEqual(rows["lumidate"][5], "2.00x")
+        self.assertEqual(rows["jhead"][5], "6.00x")
+        self.assertEqual(rows["jhead"][6], "3.00x")
+        self.assertEqual(rows["lumidate"][6], "–")
         self.assertEqual(rows["exiv2"][1], "not installed")
 
     def test_goal_rows_use_the_durable_floor_and_the_large_set(self):
@@ -188,8 +190,9 @@ class ReportTest(unittest.TestCase):
 class MeasureTest(unittest.TestCase):
     def test_run_timed_reports_status_rss_and_last_error_line(self):
         with tempfile.TemporaryDirectory() as d:
-            wall, rss, status, last = measure.run_timed(
+            wall, rss, status, last, cpu = measure.run_timed(
                 ["sh", "-c", "echo first >&2; echo last words >&2; exit 3"], d, d, "t")
+        self.assertGreaterEqual(cpu, 0.0)
         self.assertEqual(status, 3)
         self.assertEqual(last, "last words")
         self.assertGreater(rss, 0)
