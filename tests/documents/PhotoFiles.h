@@ -40,6 +40,7 @@ inline std::unique_ptr<LumFileItemDoc> openItem(const std::filesystem::path& pat
 
 inline std::filesystem::path writePhoto(const TempFolder& folder, const std::string& name, const PhotoDates& dates) {
   const std::filesystem::path path = folder / name;
+  std::filesystem::create_directories(path.parent_path());
   writeBytes(path, photoBytes(dates));
   return path;
 }

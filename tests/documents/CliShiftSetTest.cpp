@@ -1,0 +1,116 @@
+// lumidate-cli shift and set on small generated photos.
+#include <gtest/gtest.h>
+
+#include "CliRun.h"
+#include "PhotoFiles.h"
+
+using namespace doctest_support;
+
+namespace {
+
+const std::string kA = "2020:01:31 10:00:00";
+
+struct CliFixture : ::testing::Test {
+  TempFolder folder;
+  std::filesystem::path a = writePhoto(folder, "a.jpg", {kA, kA, kA});
+  std::filesystem::path b = writePhoto(folder, "b.jpg", {"0001:06:01 00:00:00", std::nullopt, kA});
+  std::filesystem::path c = writePhoto(folder, "sub/c.jpg", {kA, std::nullopt, std::nullopt});
+
+  void SetUp() override {}
+  static DateTargets::Texts datesOf(const std::filesystem::path& path) {
+    const auto item = openItem(path);
+    return item ? item->dateTexts() : DateTargets::Texts{};
+  }
+  std::string q(const std::filesystem::path& p) const { return shellQuoted(p.string()); }
+};
+
+TEST_F(CliFixture, UsageErrorsChangeNothing) {
+  const auto before = readBytes(a);
+  const std::vector<std::string> cases{
+      "shift " + q(a),
+      "shift --years 0 --seconds 0 " + q(a),
+      "shift --years -1 " + q(a),
+      "shift --years 10000 " + q(a),
+      "shift --days 3652059 " + q(a),
+      "shift --hours 1.5 " + q(a),
+      "shift --hours 1 --only original,taken " + q(a),
+      "shift --hours 1 --only '' " + q(a),
+      "shift --hours 1",
+      "set " + q(a),
+      "set --to '2023:02:29 10:00:00' " + q(a),
+      "set --to '2023:2:28 10:00:00' " + q(a),
+      "set --to '2023-02-28 10:00:00' " + q(a),
+      "set --to '0000:01:01 00:00:00' " + q(a),
+      "set --to '2023:01:01 24:00:00' " + q(a),
+  };
+  for (const std::string& args : cases) {
+    SCOPED_TRACE(args);
+    const CliResult r = runCli(args);
+    EXPECT_EQ(r.status, 2) << r.output;
+  }
+  EXPECT_EQ(readBytes(a), before);
+}
+
+TEST_F(CliFixture, ShiftForwardAndBackRestoresTheFilesExactly) {
+  std::filesystem::remove(b);  // its 0001 date would refuse a backward year
+  const auto beforeA = readBytes(a), beforeC = readBytes(c);
+  CliResult r = runCli("shift --months 1 --hours 1 " + q(folder.path()), "TZ=America/New_York");
+  ASSERT_EQ(r.status, 0) << r.output;
+  EXPECT_EQ(datesOf(a), (DateTargets::Texts{"2020:02:29 11:00:00", "2020:02:29 11:00:00", "2020:02:29 11:00:00"}));
+  EXPECT_EQ(datesOf(c), (DateTargets::Texts{"2020:02:29 11:00:00", std::nullopt, std::nullopt}));
+  EXPECT_NE(r.output.find("2 of 2 files saved"), std::string::npos) << r.output;
+
+  // Month-end clamping is not reversible in general, but 02-29 back one month is 01-29.
+  r = runCli("shift --backward --months 1 --hours 1 " + q(folder.path()), "TZ=Asia/Kolkata");
+  ASSERT_EQ(r.status, 0) << r.output;
+  EXPECT_EQ(datesOf(a)[0], "2020:01:29 10:00:00");
+
+  r = runCli("shift --days 2 " + q(folder.path()));
+  ASSERT_EQ(r.status, 0) << r.output;
+  EXPECT_EQ(readBytes(a), beforeA);
+  EXPECT_EQ(readBytes(c), beforeC);
+}
+
+TEST_F(CliFixture, ADateLeavingTheRangeRefusesTheWholeBatch) {
+  const auto beforeA = readBytes(a), beforeB = readBytes(b);
+  const CliResult r = runCli("shift --backward --years 1 " + q(folder.path()));
+  EXPECT_EQ(r.status, 2);
+  EXPECT_NE(r.output.find(b.string() + ": DateTimeOriginal 0001:06:01 00:00:00"), std::string::npos) << r.output;
+  EXPECT_EQ(r.output.find(a.string() + ":"), std::string::npos) << r.output;
+  EXPECT_EQ(readBytes(a), beforeA);
+  EXPECT_EQ(readBytes(b), beforeB);
+
+  // Without the original date among the targets the batch goes through.
+  const CliResult onlyEdited = runCli("shift --backward --years 1 --only edited,digitized " + q(folder.path()));
+  EXPECT_EQ(onlyEdited.status, 0) << onlyEdited.output;
+  EXPECT_EQ(datesOf(b), (DateTargets::Texts{"0001:06:01 00:00:00", std::nullopt, "2019:01:31 10:00:00"}));
+}
+
+TEST_F(CliFixture, DryRunPrintsAndWritesNothing) {
+  const auto beforeA = readBytes(a);
+  const CliResult r = runCli("set --to '2000:02:29 12:34:56' --dry-run " + q(a));
+  EXPECT_EQ(r.status, 0);
+  EXPECT_NE(r.output.find("DateTimeOriginal   2020:01:31 10:00:00 -> 2000:02:29 12:34:56"), std::string::npos)
+      << r.output;
+  EXPECT_EQ(readBytes(a), beforeA);
+}
+
+TEST_F(CliFixture, SetOnlySomeDatesAndKeepMissingOnesMissing) {
+  const CliResult r = runCli("set --to '2000:02:29 12:34:56' --only original,digitized " + q(folder.path()));
+  ASSERT_EQ(r.status, 0) << r.output;
+  const std::string t = "2000:02:29 12:34:56";
+  EXPECT_EQ(datesOf(a), (DateTargets::Texts{t, t, kA}));
+  EXPECT_EQ(datesOf(b), (DateTargets::Texts{t, std::nullopt, kA}));
+  EXPECT_EQ(datesOf(c), (DateTargets::Texts{t, std::nullopt, std::nullopt}));
+}
+
+TEST_F(CliFixture, AFileThatCannotBeSavedGivesExitOneAndTheOthersAreSaved) {
+  ::chmod(a.c_str(), 0444);
+  const CliResult r = runCli("set --to '2000:02:29 12:34:56' " + q(folder.path()));
+  EXPECT_EQ(r.status, 1);
+  EXPECT_NE(r.output.find(a.string() + ": not saved (The file is read-only.)"), std::string::npos) << r.output;
+  EXPECT_EQ(datesOf(c)[0], "2000:02:29 12:34:56");
+  EXPECT_EQ(datesOf(a)[0], kA);
+}
+
+}  // namespace

@@ -1,0 +1,189 @@
+// Every editable real camera file shifted by +1:02:03 with lumidate-cli and
+// back again; exiftool reads the shifted dates in between.
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <chrono>
+#include <cstdio>
+#include <set>
+
+#include "CliRun.h"
+#include "TempFiles.h"
+#include "support/TestData.h"
+
+using namespace doctest_support;
+using nlohmann::json;
+
+namespace {
+
+constexpr std::array<const char*, 3> kDates{"DateTimeOriginal", "DateTimeDigitized", "DateTime"};
+// exiftool's names for the three dates, with their groups.
+constexpr std::array<const char*, 3> kExiftoolNames{"ExifIFD:DateTimeOriginal", "ExifIFD:CreateDate", "IFD0:ModifyDate"};
+
+// The fields of a date text read by position (so "2004-07-13T21:23:44" too).
+std::optional<std::array<int, 6>> fieldsOf(const std::string& text) {
+  if (text.size() < 19) return std::nullopt;
+  std::array<int, 6> f{};
+  const int starts[6] = {0, 5, 8, 11, 14, 17}, widths[6] = {4, 2, 2, 2, 2, 2};
+  for (int i = 0; i < 6; ++i) f[static_cast<std::size_t>(i)] = std::stoi(text.substr(starts[i], widths[i]));
+  return f;
+}
+
+// The text shifted by whole seconds, worked out with the standard civil
+// calendar (independent of the program's own arithmetic).
+std::string shifted(const std::string& text, long seconds) {
+  using namespace std::chrono;
+  const auto f = *fieldsOf(text);
+  const sys_seconds t = sys_days(year(f[0]) / f[1] / f[2]) + hours(f[3]) + minutes(f[4]) + std::chrono::seconds(f[5]) +
+                        std::chrono::seconds(seconds);
+  const auto day = floor<days>(t);
+  const year_month_day ymd(day);
+  const hh_mm_ss<std::chrono::seconds> hms(t - day);
+  char out[32];
+  std::snprintf(out, sizeof out, "%04d:%02u:%02u %02ld:%02ld:%02ld", int(ymd.year()), unsigned(ymd.month()),
+                unsigned(ymd.day()), long(hms.hours().count()), long(hms.minutes().count()),
+                long(hms.seconds().count()));
+  return out;
+}
+
+// "yyyy:MM:dd HH:mm:ss" of a real calendar date.
+bool isCanonical(const std::string& text) {
+  if (text.size() != 19 || text[4] != ':' || text[7] != ':' || text[10] != ' ' || text[13] != ':' || text[16] != ':')
+    return false;
+  const auto f = fieldsOf(text);
+  const std::chrono::year_month_day ymd{std::chrono::year(f->at(0)), std::chrono::month(unsigned(f->at(1))),
+                                        std::chrono::day(unsigned(f->at(2)))};
+  return f->at(0) >= 1 && ymd.ok() && f->at(3) < 24 && f->at(4) < 60 && f->at(5) < 60;
+}
+
+struct RealFile {
+  std::string name;
+  json design;
+  std::vector<std::uint8_t> bytes;
+};
+
+std::vector<std::size_t> differences(const std::vector<std::uint8_t>& a, const std::vector<std::uint8_t>& b) {
+  std::vector<std::size_t> at;
+  for (std::size_t i = 0; i < std::min(a.size(), b.size()); ++i)
+    if (a[i] != b[i]) at.push_back(i);
+  return at;
+}
+
+// The positions a date write may touch: 19 bytes at each kept date's offset.
+std::set<std::size_t> datePositions(const json& design, bool onlyNonCanonical) {
+  std::set<std::size_t> at;
+  for (const char* name : kDates) {
+    if (design[name].is_null() || !design["date_offsets"].contains(name)) continue;
+    if (onlyNonCanonical && isCanonical(design[name].get<std::string>())) continue;
+    const std::size_t offset = design["date_offsets"][name].get<std::size_t>();
+    for (std::size_t i = 0; i < 19; ++i) at.insert(offset + i);
+  }
+  return at;
+}
+
+json exiftoolDates(const std::filesystem::path& folder) {
+  const std::string command = "exiftool -j -a -G1 -DateTimeOriginal -CreateDate -ModifyDate -ext jpg -ext tif -ext jpeg "
+                              "-ext tiff " + shellQuoted(folder.string()) + " 2>/dev/null";
+  std::string text;
+  FILE* pipe = ::popen(command.c_str(), "r");
+  if (!pipe) return json::array();
+  char buffer[4096];
+  while (const std::size_t n = std::fread(buffer, 1, sizeof buffer, pipe)) text.append(buffer, n);
+  ::pclose(pipe);
+  return json::parse(text, nullptr, false);
+}
+
+TEST(ShiftConformance, RealFilesShiftForwardAndBack) {
+  LUMTEST_REQUIRE_REAL_DATA();
+  if (std::system("exiftool -ver >/dev/null 2>&1") != 0) GTEST_SKIP() << "exiftool not installed";
+  const std::filesystem::path source = *lumtest::realDataDir();
+  TempFolder folder;
+  std::vector<RealFile> files, refusing;
+  for (const std::string& name : lumtest::realFileNames()) {
+    const json& design = lumtest::expectedFor(name)["design"];
+    if (!design.value("editable", false)) continue;
+    RealFile file{name, design, lumtest::readFile(source / name)};
+    // A kept date of year 0 is 1 BC: any shift leaves it outside 0001..9999.
+    bool outside = false;
+    for (const char* date : kDates)
+      outside = outside || (!design[date].is_null() && design[date].get<std::string>().starts_with("0000"));
+    (outside ? refusing : files).push_back(std::move(file));
+  }
+  ASSERT_FALSE(files.empty());
+  ASSERT_FALSE(refusing.empty());
+  const auto place = [&](const RealFile& f) {
+    writeBytes(folder / f.name, f.bytes);
+    ::chmod((folder / f.name).c_str(), 0644);
+  };
+  for (const RealFile& f : files) place(f);
+  for (const RealFile& f : refusing) place(f);
+
+  // 1. With the year-0 files in it, the whole batch refuses and names them.
+  const std::string forward = "shift --hours 1 --minutes 2 --seconds 3 " + shellQuoted(folder.path().string());
+  CliResult r = runCli(forward);
+  EXPECT_EQ(r.status, 2) << r.output;
+  for (const RealFile& f : refusing) EXPECT_NE(r.output.find(f.name + ": Date"), std::string::npos) << r.output;
+  for (const RealFile& f : files) EXPECT_EQ(lumtest::readFile(folder / f.name), f.bytes) << f.name;
+  for (const RealFile& f : refusing) std::filesystem::remove(folder / f.name);
+
+  // 2. Forward: only the 19 bytes of kept dates change; exiftool reads the shifted dates.
+  r = runCli(forward, "TZ=America/New_York");
+  ASSERT_EQ(r.status, 0) << r.output;
+  const json read = exiftoolDates(folder.path());
+  ASSERT_TRUE(read.is_array());
+  int comparedDates = 0;
+  for (const RealFile& f : files) {
+    SCOPED_TRACE(f.name);
+    const auto now = lumtest::readFile(folder / f.name);
+    ASSERT_EQ(now.size(), f.bytes.size());
+    const std::set<std::size_t> allowed = datePositions(f.design, false);
+    for (std::size_t at : differences(f.bytes, now)) EXPECT_TRUE(allowed.count(at)) << "byte " << at;
+    const json& expected = lumtest::expectedFor(f.name);
+    const auto entry = std::find_if(read.begin(), read.end(), [&](const json& e) {
+      return std::filesystem::path(e.value("SourceFile", "")).filename() == f.name;
+    });
+    ASSERT_NE(entry, read.end());
+    for (std::size_t i = 0; i < kDates.size(); ++i) {
+      const json& kept = f.design[kDates[i]];
+      const json& before = expected["dates"][kDates[i]];
+      // Compared where exiftool read the same date as the program before the
+      // shift (an ISO text is read differently by the two).
+      if (kept.is_null() || before.is_null() || !before["value"].is_string() || !isCanonical(kept.get<std::string>()) ||
+          !before["value"].get<std::string>().starts_with(kept.get<std::string>()))
+        continue;
+      ASSERT_TRUE(entry->contains(kExiftoolNames[i])) << kExiftoolNames[i];
+      EXPECT_TRUE((*entry)[kExiftoolNames[i]].get<std::string>().starts_with(shifted(kept.get<std::string>(), 3723)))
+          << kDates[i] << ": " << (*entry)[kExiftoolNames[i]];
+      ++comparedDates;
+    }
+  }
+  EXPECT_GT(comparedDates, 100);
+
+  // 3. Back again: identical files, except that a date not in the canonical
+  //    form (an ISO text) comes back canonical in its own 19 bytes.
+  r = runCli("shift --backward --hours 1 --minutes 2 --seconds 3 " + shellQuoted(folder.path().string()),
+             "TZ=Asia/Kolkata");
+  ASSERT_EQ(r.status, 0) << r.output;
+  int canonicalFiles = 0;
+  for (const RealFile& f : files) {
+    SCOPED_TRACE(f.name);
+    const auto now = lumtest::readFile(folder / f.name);
+    const std::set<std::size_t> rewritten = datePositions(f.design, true);
+    if (rewritten.empty()) {
+      EXPECT_EQ(now, f.bytes);
+      ++canonicalFiles;
+      continue;
+    }
+    for (std::size_t at : differences(f.bytes, now)) EXPECT_TRUE(rewritten.count(at)) << "byte " << at;
+    for (const char* date : kDates) {
+      if (f.design[date].is_null() || isCanonical(f.design[date].get<std::string>())) continue;
+      const std::size_t offset = f.design["date_offsets"][date].get<std::size_t>();
+      EXPECT_EQ(std::string(now.begin() + static_cast<std::ptrdiff_t>(offset),
+                            now.begin() + static_cast<std::ptrdiff_t>(offset + 19)),
+                shifted(f.design[date].get<std::string>(), 0));
+    }
+  }
+  EXPECT_GT(canonicalFiles, 40);
+}
+
+}  // namespace
