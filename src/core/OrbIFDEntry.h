@@ -274,6 +274,12 @@ class OrbIFDEntry {
   static std::unique_ptr<OrbIFDEntry> entryWithArchivedData(std::span<const std::uint8_t> archive);
   // Clipboard type of an archived entry.
   static constexpr std::string_view kPasteboardType = "org.lumidate.pasteboard.OrbIFDEntry";
+  // The clipboard types an entry is written as and read from (just the one).
+  static std::span<const std::string_view> writableTypes();
+  // The entry of clipboard data of kPasteboardType; nullptr for other types
+  // or data that is not an entry's archive.
+  static std::unique_ptr<OrbIFDEntry> initWithPasteboardPropertyList(std::span<const std::uint8_t> data,
+                                                                     std::string_view type);
 
  private:
   void pSetUpForIFDTag(std::uint16_t tag, std::uint32_t ifdID);

@@ -103,3 +103,14 @@ std::unique_ptr<OrbIFDEntry> OrbIFDEntry::entryWithArchivedData(std::span<const 
   entry->setVersion(ints.find("_version")->second);
   return entry;
 }
+
+std::span<const std::string_view> OrbIFDEntry::writableTypes() {
+  static constexpr std::string_view kTypes[] = {kPasteboardType};
+  return kTypes;
+}
+
+std::unique_ptr<OrbIFDEntry> OrbIFDEntry::initWithPasteboardPropertyList(std::span<const std::uint8_t> data,
+                                                                         std::string_view type) {
+  if (type != kPasteboardType) return nullptr;
+  return entryWithArchivedData(data);
+}

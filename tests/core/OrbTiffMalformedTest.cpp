@@ -56,13 +56,15 @@ TEST(OrbTiffMalformed, EntriesPointingOutsideAreDroppedOthersKept) {
       {"huge count", 2, 0xFFFFFFF0, 8},
       {"count wrapping to a small size", 5, 0x20000001, 8},  // 8 * count wraps to 8
       {"huge rational count", 5, 0x1FFFFFFF, 8},
+      {"past the block, inside the limit", 2, 64, 40},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
     TiffBuilder builder(TiffBuilder::kLittle);
     builder.ifd0().raw(0x0132, c.type, c.count, c.field).ascii(kMake, "Maker");
     const auto block = builder.build();
-    auto tiff = parseExact(block, block.size());
+    // A limit beyond the block must not let a read leave the block.
+    auto tiff = parseExact(block, block.size() + 1000);
     ASSERT_NE(tiff, nullptr);
     EXPECT_NE(tiff->entryWithIFDTag(kMake, kTIFFIFDID), nullptr);
     const OrbIFDEntry* bad = tiff->entryWithIFDTag(0x0132, kTIFFIFDID);
@@ -72,16 +74,6 @@ TEST(OrbTiffMalformed, EntriesPointingOutsideAreDroppedOthersKept) {
       EXPECT_EQ(bad->value().size(), 8u);
     }
   }
-}
-
-TEST(OrbTiffMalformed, LimitLargerThanTheBlockNeverReadsPastTheBlock) {
-  TiffBuilder builder;
-  builder.ifd0().ascii(kMake, "Maker name").raw(kModel, 2, 64, 40);
-  auto block = builder.build();
-  auto tiff = parseExact(block, block.size() + 1000);
-  ASSERT_NE(tiff, nullptr);
-  EXPECT_NE(tiff->entryWithIFDTag(kMake, kTIFFIFDID), nullptr);
-  EXPECT_EQ(tiff->entryWithIFDTag(kModel, kTIFFIFDID), nullptr);
 }
 
 TEST(OrbTiffMalformed, TruncatedBlocksEndCleanly) {
@@ -165,25 +157,6 @@ TEST(OrbTiffMalformed, NextOffsetAtOrPastTheLimitEndsTheWalk) {
   ASSERT_NE(tiff, nullptr);
   EXPECT_EQ(tiff->IFDs()->size(), 1u);
   EXPECT_NE(console.find("nextIFDLocation: (2147483647) maxLocation:("), std::string::npos) << console;
-}
-
-TEST(OrbTiffMalformed, IFD0OffsetOutsideGivesNoIFD) {
-  TiffBuilder builder;
-  builder.ifd0().ascii(kMake, "Maker");
-  builder.firstIFDOffset(0xFFFFFFF0);
-  auto tiff = parse(builder.build());
-  ASSERT_NE(tiff, nullptr);
-  ASSERT_NE(tiff->IFDs(), nullptr);
-  EXPECT_TRUE(tiff->IFDs()->empty());
-}
-
-TEST(OrbTiffMalformed, SubIFDOffsetOutsideLeavesItOut) {
-  TiffBuilder builder;
-  builder.ifd0().ascii(kMake, "Maker").raw(kExifPointerTag, 4, 1, 0xFFFFFF00).raw(kGPSPointerTag, 4, 1, 3);
-  auto tiff = parse(builder.build());
-  ASSERT_NE(tiff, nullptr);
-  EXPECT_FALSE(tiff->hasEntriesWithIFDID(kExifIFDID));
-  EXPECT_NE(tiff->entryWithIFDTag(kMake, kTIFFIFDID), nullptr);
 }
 
 TEST(OrbTiffMalformed, HeaderLocationPastTheBlock) {
