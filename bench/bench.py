@@ -26,6 +26,8 @@ def parse_args(argv):
     p.add_argument("--results", help="Markdown file to write the results to")
     p.add_argument("--command", default="bench/run", help="the command line, for the record")
     p.add_argument("--note", default="", help="a line about the conditions of this run")
+    p.add_argument("--shift-sets", default="small,large",
+                   help="comma-separated sets to time shifting on (default: small,large)")
     return p.parse_args(argv)
 
 
@@ -150,6 +152,8 @@ def main(argv):
         results["read"][name] = measure.measure_set(
             name, folder, first_dto, measure.read_programs(args.cli, args.floor), args.runs,
             None, log_dir, shifting=False)
+        if name not in args.shift_sets.split(","):
+            continue
         print("== shifting dates, %s set" % name, flush=True)
         results["shift"][name] = measure.measure_set(
             name, folder, first_dto, measure.shift_programs(args.cli, args.floor, date_at),
