@@ -163,7 +163,10 @@ def main(argv):
     with open(os.path.join(args.scratch, "results.json"), "w") as f:
         json.dump(results, f, indent=1)
     machine = machine_description(args.scratch, repo, load_at_start, args.note)
-    text = report.render(results, machine, set_lines, args.command, model_note)
+    # The reading of the figures, written by people, kept in bench/notes.md.
+    notes_path = os.path.join(repo, "bench", "notes.md")
+    notes = open(notes_path).read() if os.path.exists(notes_path) else ""
+    text = report.render(results, machine, set_lines, args.command, model_note, notes)
     print()
     print(text)
     if args.results:

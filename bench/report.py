@@ -141,7 +141,7 @@ def goal_rows(results):
     return rows
 
 
-def render(results, machine, sets, command, model_note):
+def render(results, machine, sets, command, model_note, notes=""):
     out = ["# Benchmark results", "",
            "Written by `%s` on %s. Lumidate %s." % (command, machine["date"], machine["commit"]),
            "Per-file cost is a whole process's wall time over the set divided by its number of",
@@ -170,5 +170,7 @@ def render(results, machine, sets, command, model_note):
     out += ["", "## Document model and thumbnails", "", model_note]
     out += ["", "## Goals", ""]
     out.append(markdown_table(["goal", "measured", "status"], goal_rows(results)))
+    if notes.strip():
+        out += ["", "## Notes", "", notes.strip()]
     out.append("")
     return "\n".join(out)
