@@ -5,11 +5,13 @@
 namespace cli {
 
 int runDates(const QStringList& args);
+int runDays(const QStringList& args);
 int runInfo(const QStringList& args);
 
 std::span<const Command> commands() {
   static constexpr std::array table{
       Command{"dates", "Show the dates of photo files as they are read", runDates},
+      Command{"days", "Count the whole days between two dates", runDays},
       Command{"info", "Show the metadata of photo files as the inspector lists it", runInfo},
   };
   return table;

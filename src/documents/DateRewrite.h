@@ -9,8 +9,11 @@
 #include <vector>
 
 #include "core/ByteView.h"
+#include "datetime/Instant.h"
 #include "documents/DateTargets.h"
 #include "documents/InPlaceWriter.h"
+
+class LumImageFile;
 
 namespace DateRewrite {
 
@@ -27,6 +30,25 @@ struct DateLocations {
 // characters or not ASCII is skipped; a longer text gives its first 19.
 // Nothing at all when the file has none of the three entries.
 std::vector<InPlaceWriter::BytePatch> patchesForTexts(const DateLocations& where, const DateTargets::Texts& texts);
+
+// Where the file's three date entries keep their values (absolute file
+// positions; the TIFF header's position is already added in).
+DateLocations locationsOf(const LumImageFile& file);
+
+// The single-file document's dates: one value per date picker, none where the
+// picker is disabled (the file has no such date). Each value is written as
+// its UTC reading, taken by position from the description form
+// "yyyy-MM-dd HH:mm:ss +0000".
+using PickerDates = std::array<std::optional<Instant>, DateTargets::kCount>;
+std::vector<InPlaceWriter::BytePatch> patchesForPickerDates(const DateLocations& where, const PickerDates& dates);
+
+// The description form of an instant read in UTC: "2024-01-02 03:04:05 +0000".
+std::string utcDescription(const Instant& date);
+
+// The bytes of the single-file document's file with its picker dates
+// written in (a copy; the bytes themselves when the file has none of the
+// three entries).
+std::vector<std::uint8_t> pMakeNewDateWithData(orb::ByteView data, const LumImageFile& file, const PickerDates& dates);
 
 // A copy of data with the patches applied; patches outside data are left out
 // (the writer refuses them; this copy serves comparisons and previews).

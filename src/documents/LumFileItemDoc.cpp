@@ -60,10 +60,7 @@ bool LumFileItemDoc::noDateTimes() const {
 }
 
 std::vector<InPlaceWriter::BytePatch> LumFileItemDoc::datePatches() const {
-  DateRewrite::DateLocations where;  // the file gives absolute positions
-  for (const DateTargets::Target& t : DateTargets::kTargets)
-    where.valueOffsets[t.index] = imageFile_->dateValueOffset(kFields[t.index]);
-  return DateRewrite::patchesForTexts(where, texts_);
+  return DateRewrite::patchesForTexts(DateRewrite::locationsOf(*imageFile_), texts_);
 }
 
 int LumFileItemDoc::compareForFileName(const LumFileItemDoc& other) const {

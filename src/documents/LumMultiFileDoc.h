@@ -160,6 +160,9 @@ class LumMultiFileDoc : public QObject {
   QUndoStack& undoStack() { return undoStack_; }
 
   // --- Saving ---------------------------------------------------------------
+  // The file's bytes with the item's current texts written in (a copy; the
+  // save itself writes only the changed bytes in place).
+  static std::vector<std::uint8_t> _changedDateWithData(orb::ByteView data, const LumFileItemDoc& item);
   // Saves the edited files (all of them, or the selected ones) on a
   // background thread; always true. The outcome arrives as saveFinished.
   bool saveFileAll(bool all, bool closeAfterSave, bool quitApp);

@@ -4,6 +4,7 @@
 #include <QMetaObject>
 #include <QThread>
 
+#include "documents/DateRewrite.h"
 #include "documents/LumMultiFileDoc.h"
 #include "documents/LumNotificationCenter.h"
 
@@ -31,6 +32,10 @@ InPlaceWriter::FileIdentity identityOf(const lum::FileStamp& stamp) {
 }
 
 }  // namespace
+
+std::vector<std::uint8_t> LumMultiFileDoc::_changedDateWithData(orb::ByteView data, const LumFileItemDoc& item) {
+  return DateRewrite::applied(data, item.datePatches());
+}
 
 bool LumMultiFileDoc::saveFileAll(bool all, bool closeAfterSave, bool quitApp) {
   if (saving_) return true;
