@@ -165,6 +165,8 @@ def measure_set(name, set_dir, first_dto, programs, runs, work_dir, log_dir, shi
             p.walls.append(wall)
             p.rss_kb.append(rss)
             p.cpus.append(cpu)
+            if shifting:  # a 12 MP set is gigabytes: keep one copy at a time
+                shutil.rmtree(cwd, ignore_errors=True)
             print("    %-34s run %d: %8.3f s  %7.1f MB" % (p.label, run + 1, wall, rss / 1024.0), flush=True)
     if shifting:
         shutil.rmtree(work_dir, ignore_errors=True)
