@@ -135,7 +135,10 @@ void OrbDatePicker::updateDayBounds() {
 }
 
 void OrbDatePicker::setDateValue(std::optional<Instant> date, const TimeZone& zone) {
-  setMixed(false);
+  // Leaving "Multiple Values" shows the fields again; the stepper's state
+  // is the owner's and stays as it is.
+  mixed_ = false;
+  setFieldHidden(false);
   if (!date) {
     setEnabled(false);
     return;

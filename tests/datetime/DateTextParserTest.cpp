@@ -160,18 +160,6 @@ TEST(DateWithDateTimeString, ReadsTextAsUtcUnlessAZoneIsGiven) {
   EXPECT_FALSE(DateAdditions::dateWithDateTimeString("    "));
 }
 
-TEST(DateWithDateTimeString, BcYearIsEraZero) {
-  const auto date = DateAdditions::dateWithDateTimeString("0000:01:01 00:00:00");
-  ASSERT_TRUE(date);
-  long year = 0;
-  bool bc = false;
-  const TimeZone gmt = TimeZone::gmt();
-  ASSERT_TRUE(DateAdditions::getYear(*date, &year, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &gmt, &bc));
-  EXPECT_EQ(year, 1);
-  EXPECT_TRUE(bc);
-  EXPECT_LT(*date, *DateAdditions::dateWithDateTimeString("0001:01:01 00:00:00"));
-}
-
 TEST(DateTextParser, LocalTimeInADaylightSavingGapMovesForward) {
   lumtest::ZoneGuard zone("America/New_York");
   std::string ymd, hms;

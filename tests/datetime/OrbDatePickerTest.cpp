@@ -76,15 +76,6 @@ TEST(DatePickerDays, FollowTheGregorianRules) {
   for (const Case& c : cases) EXPECT_EQ(OrbDatePicker::daysInMonth(c.year, c.month), c.days) << c.year << "-" << c.month;
 }
 
-TEST(DatePickerNames, IdentifiersRoundTrip) {
-  for (int i = 0; i <= static_cast<int>(Control::stepper); ++i) {
-    const auto c = static_cast<Control>(i);
-    EXPECT_EQ(OrbDatePicker::controlWithIdentfier(OrbDatePicker::responderIdentfier(c)), c);
-  }
-  EXPECT_EQ(OrbDatePicker::responderIdentfier(Control::subSecondField), "subSecondField");
-  EXPECT_FALSE(OrbDatePicker::controlWithIdentfier("secondsField"));
-}
-
 TEST_F(DatePicker, ShowsAnInstantAndBuildsItBack) {
   show("2019:03:07 09:05:30.250");
   EXPECT_EQ(picker_.dateTimeString(), "2019-03-07 09:05:30");
@@ -245,6 +236,16 @@ TEST_F(DatePicker, StepperOnMixedOrDisabledPickerMeansNow) {
     EXPECT_EQ(picker_.focused(), Control::yearField);
     EXPECT_TRUE(picker_.timeZone().isLocal());
   }
+}
+
+TEST_F(DatePicker, AValueLeavesMixedButKeepsTheOwnersStepperState) {
+  picker_.setMixed(true);
+  picker_.setStepperEnabled(false);
+  show("2019:03:07 09:05:30");
+  EXPECT_FALSE(picker_.isMixed());
+  EXPECT_FALSE(picker_.field(Control::yearField).hidden);
+  EXPECT_TRUE(picker_.drawColon());
+  EXPECT_FALSE(picker_.isStepperEnabled());
 }
 
 TEST_F(DatePicker, StepperWithoutDelegateLeavesMixedPickerAlone) {

@@ -81,14 +81,4 @@ TEST_F(ShiftProperties, CalendarShiftsStayInsideTheMonthAndFormatOrAreRefused) {
   }
 }
 
-TEST_F(ShiftProperties, ShiftsNeverGoBackwardsForPositiveOffsets) {
-  for (int i = 0; i < 2000; ++i) {
-    const auto start = DateAdditions::dateWithDateTimeString(randomExifText());
-    const auto sum = DateAdditions::dateByAddingWithYears(*start, uniform(0, 100), uniform(0, 100), uniform(0, 1000),
-                                                          uniform(0, 1000), uniform(0, 1000), uniform(0, 1000));
-    ASSERT_TRUE(sum);
-    ASSERT_GE(*sum, *start);
-  }
-}
-
 }  // namespace
