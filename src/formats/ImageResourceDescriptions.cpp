@@ -1,5 +1,6 @@
 #include "formats/ImageResourceDescriptions.h"
 
+#include <algorithm>
 #include <bit>
 #include <charconv>
 #include <cstdio>
@@ -14,11 +15,16 @@ namespace {
 using orb::ByteView;
 using Text = std::optional<std::string>;
 
+// printf-style formatting into a string of whatever length the result has
+// (a slice name, for one, can be long).
 template <typename... Args>
 std::string format(const char* pattern, Args... args) {
-  char buffer[512];
-  const int n = std::snprintf(buffer, sizeof buffer, pattern, args...);
-  return n < 0 ? std::string() : std::string(buffer, std::min<std::size_t>(static_cast<std::size_t>(n), sizeof buffer - 1));
+  const int n = std::snprintf(nullptr, 0, pattern, args...);
+  if (n <= 0) return {};
+  std::string out(static_cast<std::size_t>(n) + 1, '\0');
+  std::snprintf(out.data(), out.size(), pattern, args...);
+  out.pop_back();
+  return out;
 }
 
 std::string yesNo(std::uint8_t flag) { return flag ? "YES" : "NO"; }

@@ -177,6 +177,8 @@ TEST(PhotoshopDescriptions, DecodedLayoutsAndTheNameAndSizeFallback) {
       {1032, {}, be32(1) + be32(0x0A0B0C0D) + be32(0x00000240) + be32(2),
        "[Version: 1]  [Grid Cycle: 0xABCD 0x00240]  [Guide Count: 2]"},
       {1050, {}, be32(7), "[Version: 7]"},
+      {1050, {}, be32(6) + be32(1) + be32(2) + be32(3) + be32(4) + be32(2) + Bytes{0, 'a', 0x00, 0xE9} + be32(5),
+       "[Version: 6] [Top: 1 Left: 2 Bottom: 3 Right: 4] [a\xC3\xA9] [Slices Count: 5]"},
       {1057, {}, be32(1) + Bytes{1} + be32(1) + Bytes{0, 'W'} + be32(2) + Bytes{0, 'R', 0, 'd'} + be32(1),
        "[Version: 1] [Has Real Merged Data: YES] [Writer: W] [Reader: Rd] [File Version: 1]"},
       {1061, {}, {0x0A, 0xFF, 0x00}, "0AFF00"},
