@@ -112,29 +112,50 @@ Text unsigned32(ByteView d) {
   return format("%u", *value);
 }
 
-// A Photoshop Unicode string: a 32-bit count of UTF-16 units, then the units.
-// Answers the text and moves `at` past it.
+void appendUTF8(std::string& out, std::uint32_t c) {
+  if (c < 0x80) {
+    out += static_cast<char>(c);
+  } else if (c < 0x800) {
+    out += static_cast<char>(0xC0 | (c >> 6));
+    out += static_cast<char>(0x80 | (c & 0x3F));
+  } else if (c < 0x10000) {
+    out += static_cast<char>(0xE0 | (c >> 12));
+    out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+    out += static_cast<char>(0x80 | (c & 0x3F));
+  } else {
+    out += static_cast<char>(0xF0 | (c >> 18));
+    out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
+    out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+    out += static_cast<char>(0x80 | (c & 0x3F));
+  }
+}
+
+// A Photoshop Unicode string: a 32-bit count of UTF-16 units, then the units
+// (big-endian). Answers the text as UTF-8 and moves `at` past it; a lone
+// surrogate becomes U+FFFD and a terminating zero unit is dropped.
 std::optional<std::string> unicodeString(ByteView d, std::uint64_t& at) {
   const auto count = d.u32(at);
   if (!count) return std::nullopt;
-  const auto units = d.bytes(at + 4, static_cast<std::uint64_t>(*count) * 2);
+  const std::uint64_t size = static_cast<std::uint64_t>(*count) * 2;
+  const auto units = d.sub(at + 4, size);
   if (!units) return std::nullopt;
-  at += 4 + static_cast<std::uint64_t>(*count) * 2;
+  at += 4 + size;
   std::string out;
-  for (std::size_t i = 0; i + 1 < units->size(); i += 2) {
-    const unsigned unit = (static_cast<unsigned>((*units)[i]) << 8) | (*units)[i + 1];
-    if (unit == 0) continue;
-    // Basic plane only; the names these resources carry fit in it.
-    if (unit < 0x80) {
-      out += static_cast<char>(unit);
-    } else if (unit < 0x800) {
-      out += static_cast<char>(0xC0 | (unit >> 6));
-      out += static_cast<char>(0x80 | (unit & 0x3F));
-    } else {
-      out += static_cast<char>(0xE0 | (unit >> 12));
-      out += static_cast<char>(0x80 | ((unit >> 6) & 0x3F));
-      out += static_cast<char>(0x80 | (unit & 0x3F));
+  for (std::uint64_t i = 0; i < size; i += 2) {
+    std::uint32_t c = *units->u16(i);
+    if (c == 0) continue;
+    if (c >= 0xD800 && c < 0xDC00) {
+      const auto low = units->u16(i + 2);
+      if (low && *low >= 0xDC00 && *low < 0xE000) {
+        c = 0x10000 + ((c - 0xD800) << 10) + (*low - 0xDC00);
+        i += 2;
+      } else {
+        c = 0xFFFD;
+      }
+    } else if (c >= 0xDC00 && c < 0xE000) {
+      c = 0xFFFD;
     }
+    appendUTF8(out, c);
   }
   return out;
 }
