@@ -141,8 +141,10 @@ void OrbIFDEntry::setValue(std::span<const std::uint8_t> bytes) {
     n = 20;
     setDataCount(20);
   }
-  value_.assign(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(n));
-  if (dateTime && n == 20) value_[19] = 0;
+  // Built aside first: the bytes may be part of the current copy.
+  std::vector<std::uint8_t> copy(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(n));
+  if (dateTime && n == 20) copy[19] = 0;
+  value_ = std::move(copy);
 }
 
 std::span<const std::uint8_t> OrbIFDEntry::valueBytes() const {

@@ -106,6 +106,12 @@ TEST_F(EntryTest, DateClampKeepsTwentyBytesEndingInZero) {
   }
 }
 
+TEST_F(EntryTest, SetValueFromItsOwnCopy) {
+  OrbIFDEntry e = make(kOrbBigEndian, kTIFFIFDID, 0x010E, 2, 8, 0x10, bytesOf(std::string("Picture\0", 8)));
+  e.setValue(e.value().subspan(3));
+  EXPECT_EQ(vec(e.value()), bytesOf(std::string("ture\0", 5)));
+}
+
 TEST_F(EntryTest, IndexedNumbersReadOnlyTheOutOfLineCopy) {
   const OrbIFDEntry inlineShort = make(kOrbBigEndian, kTIFFIFDID, 0x0102, 3, 1, 0x00080000);
   EXPECT_EQ(inlineShort.unsignedShortAtIndex(0), 0);
