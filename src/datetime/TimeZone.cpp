@@ -22,8 +22,10 @@ std::optional<std::int64_t> TimeZone::utcFromWall(std::int64_t wallSeconds) cons
   }
   std::optional<std::int64_t> latest;
   std::int64_t smallestOffset = *offsets[0];
-  for (const auto& offset : offsets) {
+  for (int i = 0; i < 3; ++i) {
+    const auto& offset = offsets[i];
     smallestOffset = std::min(smallestOffset, *offset);
+    if (i > 0 && (*offset == *offsets[0] || *offset == *offsets[i - 1])) continue;  // already tried
     const std::int64_t candidate = wallSeconds - *offset;
     const auto actual = secondsFromGMT(candidate);
     if (actual && *actual == *offset) latest = latest ? std::max(*latest, candidate) : candidate;
