@@ -21,6 +21,17 @@ class OrbPhotoshopFF {
   static constexpr std::uint16_t kBGRThumbnailID = 1033;
 
   OrbPhotoshopFF() = default;
+  // A copy holds copies of every block and chooses its thumbnail block anew.
+  OrbPhotoshopFF(const OrbPhotoshopFF& other) : irbs_(other.irbs_) { setUpThumbnail(); }
+  OrbPhotoshopFF& operator=(const OrbPhotoshopFF& other) {
+    if (this != &other) {
+      irbs_ = other.irbs_;
+      setUpThumbnail();
+    }
+    return *this;
+  }
+  OrbPhotoshopFF(OrbPhotoshopFF&&) noexcept = default;
+  OrbPhotoshopFF& operator=(OrbPhotoshopFF&&) noexcept = default;
 
   // From bytes starting at an FF ED marker (as many as are available):
   // nullopt unless the marker and the "Photoshop 3.0" identifier are there.

@@ -121,6 +121,9 @@ TEST(PhotoshopList, ThumbnailPrefers1036AndFollowsSorting) {
   EXPECT_EQ(*ff.imageResourceBlockWithIRBID(1036)->dataValue(), (header + Bytes{4, 5, 6}));
   EXPECT_EQ(*ff.imageResourceBlockWithIRBID(1033)->dataValue(), (header + Bytes{1}));
 
+  ff.setThumbIRB(0);
+  EXPECT_EQ(OrbPhotoshopFF(ff).thumbIRB()->irbID(), 1036);  // a copy chooses again
+  ff.setUpThumbnail();
   ff.rmoveIRBWithID(1036);
   EXPECT_EQ(ff.thumbIRB(), nullptr);
   ff.setUpThumbnail();
