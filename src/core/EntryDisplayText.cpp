@@ -27,16 +27,18 @@ std::vector<std::uint16_t> shortValues(const OrbIFDEntry& e) {
   return values;
 }
 
-// The first rational of the value, nullopt when there is none or its
+// The index-th rational of the value, nullopt when there is none or its
 // denominator is 0 (those are shown by their type, "n/0").
-std::optional<OrbRational> firstRawRational(const OrbIFDEntry& e) {
+std::optional<OrbRational> rationalAt(const OrbIFDEntry& e, std::uint64_t index) {
   const auto bytes = e.valueBytes();
   const ByteView view(bytes);
   const ByteOrder order = e.isLittleEndian() ? ByteOrder::Little : ByteOrder::Big;
-  const auto n = view.u32(0, order), d = view.u32(4, order);
+  const auto n = view.u32(8 * index, order), d = view.u32(8 * index + 4, order);
   if (!n || !d || *d == 0) return std::nullopt;
   return OrbRational{*n, *d};
 }
+
+std::optional<OrbRational> firstRawRational(const OrbIFDEntry& e) { return rationalAt(e, 0); }
 
 std::optional<double> firstRational(const OrbIFDEntry& e, bool isSigned) {
   const auto r = firstRawRational(e);
@@ -75,6 +77,29 @@ std::optional<std::string> subjectDistanceText(const OrbIFDEntry& e) {
   if (!r) return std::nullopt;
   if (r->numerator == 0xFFFFFFFFu) return "Infinity";
   return formatShortDecimal(static_cast<double>(r->numerator) / r->denominator, 2) + " m";
+}
+
+// "24-70mm F2.8-4" from the lens's shortest and longest focal lengths and
+// the smallest F-numbers at each; a range whose ends agree is one number,
+// an unknown value (0/0) is "?".
+std::optional<std::string> lensSpecificationText(const OrbIFDEntry& e) {
+  if (e.dataCount() != 4) return std::nullopt;
+  const auto part = [&](std::uint64_t i) {
+    const auto r = rationalAt(e, i);
+    return r ? formatShortDecimal(static_cast<double>(r->numerator) / r->denominator, 1) : std::string("?");
+  };
+  const auto range = [](const std::string& a, const std::string& b) { return a == b ? a : a + "-" + b; };
+  return range(part(0), part(1)) + "mm F" + range(part(2), part(3));
+}
+
+// The subject as a point, a circle or a rectangle, by the number of values.
+std::optional<std::string> subjectAreaText(const OrbIFDEntry& e) {
+  const std::vector<std::uint16_t> v = shortValues(e);
+  if (v.size() < 2 || v.size() > 4) return std::nullopt;
+  std::string text = "Center Coordinates (" + std::to_string(v[0]) + ", " + std::to_string(v[1]) + ")";
+  if (v.size() == 3) text += ", Diameter " + std::to_string(v[2]);
+  if (v.size() == 4) text += ", Area Size " + std::to_string(v[2]) + " x " + std::to_string(v[3]);
+  return text;
 }
 
 // "0231" is version 2.31; anything that is not four digits is left alone.
@@ -126,6 +151,8 @@ std::optional<OrbDataObject> exifText(const OrbIFDEntry& e) {
     case 0x9206: if (e.type() == kOrbTypeRational) text = subjectDistanceText(e); break;
     case 0x9000: case 0xA000: if (e.type() == kOrbTypeUndefined) text = fourDigitVersionText(e); break;
     case 0x9101: if (e.type() == kOrbTypeUndefined) text = componentsText(e); break;
+    case 0xA432: if (e.type() == kOrbTypeRational) text = lensSpecificationText(e); break;
+    case 0x9214: case 0xA214: if (e.type() == kOrbTypeShort) text = subjectAreaText(e); break;
     case 0xA300: case 0xA301: if (e.type() == kOrbTypeUndefined) text = undefinedCodeText(e); break;
     default: break;
   }
