@@ -106,6 +106,16 @@ std::string uno(const std::string& text) {
 
 }  // namespace
 
+std::optional<std::string> shapeBinary(std::uint8_t record, std::uint8_t dataSet, std::span<const std::uint8_t> data) {
+  if (record != 3) return std::nullopt;
+  // 3:130, one octet: whether values beyond the end points may occur.
+  if (dataSet == 130 && data.size() == 1) return std::string(data[0] ? "Allowed" : "Not Allowed");
+  // 3:135, one octet per component; the usual three components as numbers.
+  if (dataSet == 135 && data.size() == 3)
+    return std::to_string(data[0]) + ", " + std::to_string(data[1]) + ", " + std::to_string(data[2]);
+  return std::nullopt;
+}
+
 std::string shape(std::uint8_t record, std::uint8_t dataSet, const std::string& text) {
   if (isDate(record, dataSet)) return date(text);
   if (isTime(record, dataSet)) return time(text);

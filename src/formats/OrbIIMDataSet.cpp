@@ -40,6 +40,7 @@ std::optional<std::string> OrbIIMDataSet::stringValue() const {
 
 std::optional<std::string> OrbIIMDataSet::stringValue(orb::RecordEncoding encoding) const {
   if (!hasData()) return std::nullopt;
+  if (auto binary = IIMTextShaping::shapeBinary(record_, dataSetNumber_, data_)) return binary;
   if (encoding == orb::RecordEncoding::Unspecified) encoding = orb::RecordEncoding::MacOSRoman;
   auto text = orb::decodeText(data_, encoding);
   if (!text) return std::nullopt;
