@@ -11,6 +11,7 @@
 #include "FuzzCheck.h"
 #include "core/ByteView.h"
 #include "documents/DateRewrite.h"
+#include "formats/FileData.h"
 #include "formats/LumImageFile.h"
 
 namespace {
@@ -31,6 +32,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   LumImageFile image;
   LumError error;
   if (!image.searchImageDataAndMakeExifObject(file, &error)) return 0;
+  // The original date texts are taken when the bytes are handed over.
+  image.setImageData(lum::FileData::fromBytes(std::vector<std::uint8_t>(data, data + size)));
   checkRange(image.JFIFSegmentRange(), file);
   checkRange(image.exifSegmentRange(), file);
   for (const auto& [key, value] : image.JFIF().value_or(LumImageFile::JFIFDictionary{})) FUZZ_CHECK(!key.empty());

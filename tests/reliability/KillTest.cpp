@@ -1,0 +1,102 @@
+// `lumidate-cli shift` killed at random moments while it saves a folder of
+// photos. After every kill each file must be exactly as it was before that
+// run or exactly as the run meant to leave it: never a mix, never shorter.
+//
+// LUMIDATE_KILL_FILES (default 200) and LUMIDATE_KILLS (default 5) set the
+// size; RELIABILITY.md gives the figures of 1000 files and 50 kills.
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <random>
+#include <thread>
+
+#include "DatedPhotos.h"
+#include "SmallPhotos.h"
+
+namespace fs = std::filesystem;
+using Clock = std::chrono::steady_clock;
+
+namespace {
+
+const DateTextRules::Offsets kOneDay{0, 0, 1, 0, 0, 0};
+
+pid_t startShift(const fs::path& folder) {
+  const pid_t pid = ::fork();
+  if (pid == 0) {
+    const int null = ::open("/dev/null", O_WRONLY);
+    ::dup2(null, STDOUT_FILENO);
+    ::dup2(null, STDERR_FILENO);
+    ::execl(LUMIDATE_CLI_PATH, LUMIDATE_CLI_PATH, "shift", "--days", "1", folder.c_str(), static_cast<char*>(nullptr));
+    ::_exit(127);
+  }
+  return pid;
+}
+
+int waitFor(pid_t pid) {
+  int status = 0;
+  ::waitpid(pid, &status, 0);
+  return status;
+}
+
+struct FileState {
+  std::vector<std::uint8_t> before;    // as the run found it
+  std::vector<std::uint8_t> intended;  // as the run means to leave it
+};
+
+TEST(KillDuringSave, EveryFileIsAsBeforeOrAsIntendedAfterEachKill) {
+  const int fileCount = reltest::countFromEnvironment("LUMIDATE_KILL_FILES", 200);
+  const int kills = reltest::countFromEnvironment("LUMIDATE_KILLS", 5);
+  reltest::ScratchFolder folder;
+  const auto paths = reltest::writeSmallPhotos(folder.path(), fileCount);
+  std::vector<FileState> files(paths.size());
+  const auto refresh = [&] {
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+      files[i].before = reltest::readAll(paths[i]);
+      files[i].intended = reltest::shiftedBytes(files[i].before, kOneDay);
+    }
+  };
+
+  // One whole run first: it must change every file, and it says how long a
+  // run takes, so the kills can fall anywhere in one.
+  refresh();
+  const auto start = Clock::now();
+  const int status = waitFor(startShift(folder.path()));
+  const auto runTime = Clock::now() - start;
+  ASSERT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "status " << status;
+  for (std::size_t i = 0; i < paths.size(); ++i)
+    ASSERT_EQ(reltest::readAll(paths[i]), files[i].intended) << paths[i];
+
+  std::mt19937 random(20240601);
+  std::uniform_int_distribution<long> moment(0, std::chrono::duration_cast<std::chrono::microseconds>(runTime).count());
+  int killsMidSave = 0, mixed = 0;
+  for (int k = 0; k < kills; ++k) {
+    refresh();
+    const pid_t pid = startShift(folder.path());
+    std::this_thread::sleep_for(std::chrono::microseconds(moment(random)));
+    ::kill(pid, SIGKILL);
+    waitFor(pid);
+    std::size_t changed = 0;
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+      const std::vector<std::uint8_t> now = reltest::readAll(paths[i]);
+      if (now == files[i].intended) {
+        ++changed;
+      } else if (now != files[i].before) {
+        ++mixed;
+        ADD_FAILURE() << "kill " << k << " left " << paths[i] << " neither as before nor as intended";
+      }
+    }
+    if (changed > 0 && changed < paths.size()) ++killsMidSave;
+  }
+  EXPECT_EQ(mixed, 0);
+  reltest::reportFigure("kill test: files", fileCount);
+  reltest::reportFigure("kill test: kills survived", kills);
+  reltest::reportFigure("kill test: kills that fell inside the saving of the folder", killsMidSave);
+  reltest::reportFigure("kill test: seconds for one whole run", std::chrono::duration<double>(runTime).count());
+}
+
+}  // namespace
