@@ -353,13 +353,6 @@ TEST_F(EntryTest, OffsetTimeBlanksAreUnknown) {
   EXPECT_EQ(notOffset.stringData(), "      ");
 }
 
-TEST_F(EntryTest, DescriptionAndFallbackTitle) {
-  const OrbIFDEntry inline1 = make(kOrbBigEndian, kExifIFDID, 0xA20D, 3, 1, 0x00050000);
-  EXPECT_EQ(inline1.description(), "(0xA20D) Type:3 Count:1 data:0x50000 IFDID: (0x20000) IFDTag: (0xA20D)");
-  const OrbIFDEntry pointer = make(kOrbBigEndian, kTIFFIFDID, 0x0132, 2, 20, 0x1A2);
-  EXPECT_EQ(pointer.description(), "(0x132) Type:2 Count:20 data:Pointer 0x1A2 IFDID: (0x10000) IFDTag: (0x132)");
-}
-
 // ---- archive ----
 
 TEST_F(EntryTest, ArchiveRoundTrips) {
