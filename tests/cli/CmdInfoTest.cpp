@@ -15,14 +15,15 @@
 
 namespace {
 
+using nlohmann::json;
+
 struct CliRun {
   int status;
   std::string out;
 };
 
-CliRun runCli(const std::string& arguments, bool withStderr = false) {
-  const std::string command = std::string(LUMIDATE_CLI) + " " + arguments + (withStderr ? " 2>&1" : " 2>/dev/null");
-  FILE* pipe = popen(command.c_str(), "r");
+CliRun runCli(const std::string& arguments) {
+  FILE* pipe = popen((std::string(LUMIDATE_CLI) + " " + arguments + " 2>/dev/null").c_str(), "r");
   if (!pipe) return {-1, ""};
   std::string out;
   std::array<char, 4096> buffer;
@@ -31,100 +32,61 @@ CliRun runCli(const std::string& arguments, bool withStderr = false) {
   return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, out};
 }
 
-std::string quoted(const std::string& path) { return "'" + path + "'"; }
+std::string realFile(const std::string& name) { return "'" + (*lumtest::realDataDir() / name).string() + "'"; }
 
-// (group, title) -> value of one file's rows.
-using Rows = std::map<std::pair<std::string, std::string>, std::string>;
-
-Rows rowsOf(const nlohmann::json& file) {
-  Rows rows;
-  for (const auto& r : file.at("rows")) rows[{r.at("group"), r.at("title")}] = r.at("value");
-  return rows;
-}
-
-std::optional<std::string> rowValue(const Rows& rows, const char* group, const char* title) {
-  const auto it = rows.find({group, title});
-  return it == rows.end() ? std::nullopt : std::optional(it->second);
+// The value of the row (group, title), or null when there is no such row.
+json rowValue(const json& file, const std::string& group, const std::string& title) {
+  for (const auto& r : file.at("rows"))
+    if (r.at("group") == group && r.at("title") == title) return r.at("value");
+  return nullptr;
 }
 
 // The other reader drops trailing blanks of texts; the inspector shows the file's own.
-std::string trimmed(std::string s) {
-  while (!s.empty() && s.back() == ' ') s.pop_back();
-  return s;
+json trimmed(json value) {
+  if (!value.is_string()) return value;
+  std::string s = value;
+  return s.substr(0, s.find_last_not_of(' ') + 1);
 }
 
 // The signed decimal degrees that close a GPS position value: "... (-35.5)".
-std::optional<double> decimalDegrees(const std::string& value) {
+json decimalDegrees(const json& value) {
   std::smatch m;
-  if (!std::regex_search(value, m, std::regex(R"(\((-?[0-9.]+)\)$)"))) return std::nullopt;
+  const std::string text = value.is_string() ? value.get<std::string>() : "";
+  if (!std::regex_search(text, m, std::regex(R"(\((-?[0-9.]+)\)$)"))) return value;
   return std::stod(m[1]);
-}
-
-void compareText(const Rows& rows, const char* title, const nlohmann::json& expected) {
-  const auto value = rowValue(rows, "TIFF", title);
-  if (expected.is_null()) {
-    EXPECT_FALSE(value) << title;
-  } else {
-    ASSERT_TRUE(value) << title;
-    EXPECT_EQ(trimmed(*value), expected.get<std::string>()) << title;
-  }
-}
-
-void compareOrientation(const Rows& rows, const nlohmann::json& expected) {
-  static const char* const kWords[] = {"",           "1 Top-Left",  "2 Top-Right",    "3 Bottom-Right", "4 Bottom-Left",
-                                       "5 Left-Top", "6 Right-Top", "7 Right-Bottom", "8 Left-Bottom"};
-  const auto value = rowValue(rows, "TIFF", "Orientation");
-  if (expected.is_null()) {
-    EXPECT_FALSE(value);
-    return;
-  }
-  const int code = expected.get<int>();
-  ASSERT_TRUE(value && code >= 1 && code <= 8) << code;
-  EXPECT_EQ(*value, kWords[code]);
-}
-
-void comparePosition(const Rows& rows, const char* title, const nlohmann::json& expected) {
-  const auto value = rowValue(rows, "GPS", title);
-  if (expected.is_null()) {
-    EXPECT_FALSE(value) << title << ": " << value.value_or("");
-    return;
-  }
-  ASSERT_TRUE(value) << title;
-  const auto degrees = decimalDegrees(*value);
-  ASSERT_TRUE(degrees) << *value;
-  EXPECT_NEAR(*degrees, expected.get<double>(), 1e-6) << *value;
-}
-
-void compareDate(const Rows& rows, const char* group, const char* title, const nlohmann::json& expected) {
-  const auto value = rowValue(rows, group, title);
-  if (expected.is_null()) {
-    EXPECT_EQ(value.value_or(""), "") << title;  // no row, or a date that was not kept
-  } else {
-    EXPECT_EQ(value.value_or("(no row)"), expected.get<std::string>()) << title;
-  }
 }
 
 TEST(CliInfo, RealFilesShowWhatOtherReadersFind) {
   LUMTEST_REQUIRE_REAL_DATA();
+  static const json kOrientationWords = {nullptr,       "1 Top-Left",  "2 Top-Right",    "3 Bottom-Right", "4 Bottom-Left",
+                                         "5 Left-Top", "6 Right-Top", "7 Right-Bottom", "8 Left-Bottom"};
   int compared = 0;
   for (const std::string& name : lumtest::realFileNames()) {
-    const nlohmann::json& expected = lumtest::expectedFor(name);
-    const nlohmann::json& design = expected.at("design");
+    const json& expected = lumtest::expectedFor(name);
+    const json& design = expected.at("design");
     if (design.at("tiffHeaderLocation").is_null()) continue;  // no TIFF structure: nothing to compare
     SCOPED_TRACE(name);
-    const CliRun run = runCli("info --json " + quoted((*lumtest::realDataDir() / name).string()));
+    const CliRun run = runCli("info --json " + realFile(name));
     ASSERT_EQ(run.status, 0);
-    const nlohmann::json out = nlohmann::json::parse(run.out);
-    ASSERT_EQ(out.size(), 1u);
-    const Rows rows = rowsOf(out[0]);
-    compareText(rows, "Make", expected.at("Make"));
-    compareText(rows, "Model", expected.at("Model"));
-    compareOrientation(rows, expected.at("Orientation"));
-    comparePosition(rows, "GPS Latitude", expected.at("GPSLatitude"));
-    comparePosition(rows, "GPS Longitude", expected.at("GPSLongitude"));
-    compareDate(rows, "TIFF", "Date Time", design.at("DateTime"));
-    compareDate(rows, "Exif", "Date Time Original", design.at("DateTimeOriginal"));
-    compareDate(rows, "Exif", "Date Time Digitized", design.at("DateTimeDigitized"));
+    const json file = json::parse(run.out).at(0);
+    EXPECT_EQ(trimmed(rowValue(file, "TIFF", "Make")), expected.at("Make"));
+    EXPECT_EQ(trimmed(rowValue(file, "TIFF", "Model")), expected.at("Model"));
+    const json& orientation = expected.at("Orientation");
+    EXPECT_EQ(rowValue(file, "TIFF", "Orientation"), orientation.is_null() ? json() : kOrientationWords.at(orientation.get<int>()));
+    for (const auto& [key, title] : {std::pair{"GPSLatitude", "GPS Latitude"}, {"GPSLongitude", "GPS Longitude"}}) {
+      const json shown = decimalDegrees(rowValue(file, "GPS", title));
+      if (expected.at(key).is_null() || !shown.is_number())
+        EXPECT_EQ(shown, expected.at(key)) << title;
+      else
+        EXPECT_NEAR(shown.get<double>(), expected.at(key).get<double>(), 1e-6) << title;
+    }
+    // A date that was not kept shows as an empty row (or no row).
+    for (const auto& [key, group, title] : {std::tuple{"DateTime", "TIFF", "Date Time"},
+                                            {"DateTimeOriginal", "Exif", "Date Time Original"},
+                                            {"DateTimeDigitized", "Exif", "Date Time Digitized"}}) {
+      const json shown = rowValue(file, group, title);
+      EXPECT_EQ(shown == "" ? json() : shown, design.at(key)) << title;
+    }
     ++compared;
   }
   EXPECT_GE(compared, 50);
@@ -132,42 +94,26 @@ TEST(CliInfo, RealFilesShowWhatOtherReadersFind) {
 
 TEST(CliInfo, JsonListsEveryFileWithItsRowsOrItsError) {
   LUMTEST_REQUIRE_REAL_DATA();
-  const auto dir = *lumtest::realDataDir();
-  const CliRun run = runCli("info --json " + quoted((dir / "flir-i7-jfif.jpg").string()) + " " +
-                         quoted((dir / "broken-ifd0.tif").string()) + " " + quoted((dir / "no-such-file.jpg").string()));
+  const CliRun run =
+      runCli("info --json " + realFile("flir-i7-jfif.jpg") + " " + realFile("broken-ifd0.tif") + " " + realFile("none.jpg"));
   EXPECT_EQ(run.status, 1);
-  const nlohmann::json out = nlohmann::json::parse(run.out);
+  const json out = json::parse(run.out);
   ASSERT_EQ(out.size(), 3u);
-  const nlohmann::json& rows = out[0].at("rows");
-  ASSERT_GE(rows.size(), 3u);
   // JFIF first, then TIFF led by its byte order; headings are not rows.
-  EXPECT_EQ(rows[0], (nlohmann::json{{"group", "JFIF"}, {"title", "JFIF Version"}, {"value", "1.1"}}));
-  bool sawTIFF = false;
-  for (const auto& r : rows) {
-    EXPECT_NE(r.at("title"), r.at("group"));
-    if (!sawTIFF && r.at("group") == "TIFF") {
-      EXPECT_EQ(r, (nlohmann::json{{"group", "TIFF"}, {"title", "Byte Order"}, {"value", "Little Endian"}}));
-      sawTIFF = true;
-    }
-  }
-  EXPECT_TRUE(sawTIFF);
-  EXPECT_EQ(out[1].at("error"), (nlohmann::json{{"domain", "LumErrorDomain"}, {"code", -1}}));
+  const json& rows = out[0].at("rows");
+  EXPECT_EQ(rows.at(0), (json{{"group", "JFIF"}, {"title", "JFIF Version"}, {"value", "1.1"}}));
+  const auto tiff = std::find_if(rows.begin(), rows.end(), [](const json& r) { return r.at("group") == "TIFF"; });
+  ASSERT_NE(tiff, rows.end());
+  EXPECT_EQ(*tiff, (json{{"group", "TIFF"}, {"title", "Byte Order"}, {"value", "Little Endian"}}));
+  EXPECT_EQ(out[1], (json{{"path", (*lumtest::realDataDir() / "broken-ifd0.tif").string()},
+                          {"error", {{"domain", "LumErrorDomain"}, {"code", -1}}}}));
   EXPECT_EQ(out[2].at("error").at("domain"), "LumErrorDomain");
-  EXPECT_FALSE(out[1].contains("rows"));
-}
 
-TEST(CliInfo, PlainOutputAndUsage) {
-  LUMTEST_REQUIRE_REAL_DATA();
-  const CliRun plain = runCli("info " + quoted((*lumtest::realDataDir() / "htc-desire-mm-gps.jpg").string()));
+  const CliRun plain = runCli("info " + realFile("htc-desire-mm-gps.jpg"));
   EXPECT_EQ(plain.status, 0);
   EXPECT_NE(plain.out.find("\n  GPS\n"), std::string::npos) << plain.out;
   EXPECT_NE(plain.out.find("Big Endian"), std::string::npos);
-  EXPECT_NE(plain.out.find("above sea level"), std::string::npos);
   EXPECT_EQ(runCli("info").status, 2);
-  EXPECT_EQ(runCli("info --bogus x.jpg").status, 2);
-  const CliRun help = runCli("info --help");
-  EXPECT_EQ(help.status, 0);
-  EXPECT_NE(help.out.find("--json"), std::string::npos);
 }
 
 }  // namespace

@@ -89,10 +89,8 @@ TEST(EntryMaking, DateTexts) {
     const char* text;
   };
   const Case cases[] = {
-      {-1, {}, "1969:12:31 23:59:59"},
       {951782400, {}, "2000:02:29 00:00:00"},
       {1625097598, -86400, "2021:06:29 23:59:58"},
-      {253402300799, {}, "9999:12:31 23:59:59"},
       {-62135596801, {}, "0000:12:31 23:59:59"},  // 1 BC
   };
   for (const Case& c : cases) EXPECT_EQ(orb::exifDateText(c.seconds, c.zone), c.text) << c.seconds;

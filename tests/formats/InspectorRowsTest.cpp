@@ -5,7 +5,6 @@
 
 #include "ImageFileTestSupport.h"
 #include "core/CatalogueTestEntries.h"
-#include "core/Localization.h"
 #include "core/OrbTiff.h"
 #include "formats/inspector/LumInfoDataSource.h"
 
@@ -135,26 +134,6 @@ TEST(InspectorRows, GPSValuesWithTheirReferences) {
   EXPECT_EQ(texts(LumInfoDataSource::rowsFor(&bare, nullptr, {})),
             (std::vector<std::string>{"# GPS", "GPS|GPS Latitude|35\u00B0 30' 0.00\" (35.5)",
                                       "GPS|GPS Altitude|10.5 m"}));
-}
-
-TEST(InspectorRows, TitlesKeysAndWordsAreLocalized) {
-  Localization::setLookup([](std::string_view table, std::string_view key) -> std::optional<std::string> {
-    if (table != "IFD") return std::nullopt;
-    if (key == "Make") return std::string("Hersteller");
-    if (key == "Density Unit") return std::string("Dichteeinheit");
-    if (key == "dpi") return std::string("dpi (Zoll)");
-    if (key == "Big Endian") return std::string("Motorola");
-    if (key == "6 Right-Top") return std::string("6 Rechts oben");
-    return std::nullopt;
-  });
-  const std::int8_t M = kOrbBigEndian;
-  const OrbTiff tiff = tiffOf(M, {text(M, 271, kTIFFIFDID, "dpi"), shorts(M, 274, kTIFFIFDID, 6)});
-  const LumImageFile::JFIFDictionary jfif{{"Density Unit", "dpi"}};
-  EXPECT_EQ(texts(LumInfoDataSource::rowsFor(&tiff, &jfif, {})),
-            (std::vector<std::string>{"# JFIF", "JFIF|Dichteeinheit|dpi (Zoll)", "# TIFF", "TIFF|Byte Order|Motorola",
-                                      "TIFF|Hersteller|dpi",  // an ASCII value is the file's own text
-                                      "TIFF|Orientation|6 Rechts oben"}));
-  Localization::setLookup({});
 }
 
 TEST(InspectorRows, FollowsTheShownFile) {
