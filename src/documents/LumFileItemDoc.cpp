@@ -27,6 +27,7 @@ LumFileItemDoc::~LumFileItemDoc() = default;
 
 void LumFileItemDoc::replaceImageFile(std::unique_ptr<LumImageFile> imageFile) {
   const bool edit = isEdit();
+  if (!imageFile->thumbnail()) imageFile->setThumbnail(imageFile_->thumbnail());
   imageFile_ = std::move(imageFile);
   imageFile_->setOwnerDocument(this);
   imageFile_->setEdit(edit);

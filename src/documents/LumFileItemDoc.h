@@ -25,8 +25,10 @@ class LumFileItemDoc : public LumImageFileOwner {
   std::string fileName() const { return url_.filename().string(); }
 
   LumImageFile& imageFile() const { return *imageFile_; }
+  // Shared with background work (thumbnails) that may outlive a replacement.
+  std::shared_ptr<LumImageFile> sharedImageFile() const { return imageFile_; }
   // Puts a freshly read model of the same file in place (after a save); the
-  // edit mark is carried over.
+  // edit mark and the thumbnail are carried over.
   void replaceImageFile(std::unique_ptr<LumImageFile> imageFile);
 
   // The current texts.
@@ -69,6 +71,6 @@ class LumFileItemDoc : public LumImageFileOwner {
   int compareForDate(const LumFileItemDoc& other, DateTargets::Index which) const;
 
   std::filesystem::path url_;
-  std::unique_ptr<LumImageFile> imageFile_;
+  std::shared_ptr<LumImageFile> imageFile_;
   DateTargets::Texts texts_;
 };

@@ -6,6 +6,7 @@
 #include "datetime/DateAdditions.h"
 #include "documents/LumDateChangeCommands.h"
 #include "documents/LumLocalized.h"
+#include "documents/LumNotificationCenter.h"
 
 namespace {
 
@@ -30,7 +31,10 @@ LumMultiFileDoc::LumMultiFileDoc(std::vector<std::unique_ptr<LumFileItemDoc>> it
 }
 
 LumMultiFileDoc::~LumMultiFileDoc() {
-  // The commands refer to the items; drop them first.
+  // Background work and the commands refer to the items; end them first.
+  for (const auto& item : items_)
+    if (const LumImageFile::CancelFlag flag = item->imageFile().operation()) *flag = true;
+  if (operationQueue_) operationQueue_->waitForDone();
   undoStack_.clear();
 }
 
@@ -48,13 +52,18 @@ LumFileItemDoc* LumMultiFileDoc::itemForURL(const std::filesystem::path& url) co
   return nullptr;
 }
 
-void LumMultiFileDoc::setSelectedRows(const std::vector<int>& rows) {
+void LumMultiFileDoc::setSelectedRows(const std::vector<int>& rows, bool isMainWindow) {
   selection_.clear();
   for (int row : rows)
     if (row >= 0 && row < rowCount() && std::find(selection_.begin(), selection_.end(), &item(row)) == selection_.end())
       selection_.push_back(&item(row));
   clickedRow_.reset();
   updateFileURLAndWindowTitle();
+  if (isMainWindow) {
+    const LumFileItemDoc* shown = _selectedDocument();
+    LumNotificationCenter::defaultCenter().post(kLumImageFileDidChangeNotification,
+                                                shown ? &shown->imageFile() : nullptr);
+  }
 }
 
 std::vector<int> LumMultiFileDoc::selectedRows() const {

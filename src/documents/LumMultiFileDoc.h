@@ -8,6 +8,7 @@
 // command-line tool drives the very same operations.
 
 #include <QObject>
+#include <QThreadPool>
 #include <QString>
 #include <QUndoStack>
 
@@ -79,8 +80,9 @@ class LumMultiFileDoc : public QObject {
   std::optional<int> rowOf(const LumFileItemDoc* item) const;
   LumFileItemDoc* itemForURL(const std::filesystem::path& url) const;
 
-  // The selected rows, in the order they were selected; invalid rows are dropped.
-  void setSelectedRows(const std::vector<int>& rows);
+  // The selected rows, in the order they were selected; invalid rows are
+  // dropped. In the main window the inspector is told which file is shown.
+  void setSelectedRows(const std::vector<int>& rows, bool isMainWindow = false);
   std::vector<int> selectedRows() const;
   // The row of a context-menu click, none when the menu was not opened on a row.
   void setClickedRow(std::optional<int> row) { clickedRow_ = row; }
@@ -159,6 +161,14 @@ class LumMultiFileDoc : public QObject {
 
   QUndoStack& undoStack() { return undoStack_; }
 
+  // --- Thumbnails -------------------------------------------------------------
+  // Makes the row's thumbnail in the background unless it has one or one is
+  // being made; thumbnailReady follows on the document's thread.
+  void requestThumbnail(int row);
+  // The document's queue of thumbnail work, made on first use.
+  QThreadPool& LumSharedPhotoIconMakerQueue();
+  static constexpr int kMaxThumbnailJobs = 8;
+
   // --- Saving ---------------------------------------------------------------
   // The file's bytes with the item's current texts written in (a copy; the
   // save itself writes only the changed bytes in place).
@@ -166,6 +176,9 @@ class LumMultiFileDoc : public QObject {
   // Saves the edited files (all of them, or the selected ones) on a
   // background thread; always true. The outcome arrives as saveFinished.
   bool saveFileAll(bool all, bool closeAfterSave, bool quitApp);
+  // Save: the selected edited files. Save all: every edited file.
+  bool saveDocument() { return saveFileAll(false, false, false); }
+  bool saveAllDocuments() { return saveFileAll(true, false, false); }
   bool isSaving() const { return saving_; }
   // Replaces the system write (tests make it fail part way).
   void setWriteFunction(InPlaceWriter::WriteFunction write) { writeFunction_ = std::move(write); }
@@ -180,6 +193,7 @@ class LumMultiFileDoc : public QObject {
   void applyStateChanged(bool enabled, bool warningShown);
   void beep();
   void titleChanged(const QString& title, bool edited);
+  void thumbnailReady(LumFileItemDoc* item);
   void savingStarted(int count);  // show the saving sheet when count is 2 or more
   void savingProgress(double percent, const QString& path);
   void saveFinished(const LumSaveOutcome& outcome);
@@ -208,4 +222,5 @@ class LumMultiFileDoc : public QObject {
   QUndoStack undoStack_;
   bool saving_ = false;
   InPlaceWriter::WriteFunction writeFunction_;
+  std::unique_ptr<QThreadPool> operationQueue_;
 };
