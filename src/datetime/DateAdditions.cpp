@@ -48,11 +48,15 @@ struct Fields {
 };
 
 std::optional<Fields> split(const Instant& date, const TimeZone& zone) {
+  // Instants are made by the builders, but a caller may put any number in;
+  // the range check keeps the sums below from overflowing.
+  if (date.seconds < kInstantMinSeconds - 86400 * 10 || date.seconds > kInstantMaxSeconds + 86400 * 10)
+    return std::nullopt;
   const auto offset = zone.secondsFromGMT(date.seconds);
   if (!offset) return std::nullopt;
   const std::int64_t wall = date.seconds + *offset;
   const std::int64_t days = civil::floorDiv(wall, 86400);
-  const std::int64_t secondOfDay = wall - days * 86400;
+  const std::int64_t secondOfDay = civil::floorMod(wall, 86400);
   const civil::YearMonthDay ymd = civil::civilFromDays(days);
   const bool bc = ymd.year <= 0;
   return Fields{bc ? 1 - ymd.year : ymd.year,

@@ -35,7 +35,7 @@ Instant saturated(int direction, bool* bc) {
 
 std::string tiffDateString(const Instant& date) {
   const std::int64_t days = civil::floorDiv(date.seconds, 86400);
-  const std::int64_t secondOfDay = date.seconds - days * 86400;
+  const std::int64_t secondOfDay = civil::floorMod(date.seconds, 86400);
   const civil::YearMonthDay ymd = civil::civilFromDays(days);
   const std::int64_t eraYear = ymd.year <= 0 ? 1 - ymd.year : ymd.year;
   return numtext::format("%.4lld:%.2u:%.2u %.2lld:%.2lld:%.2lld", static_cast<long long>(eraYear), ymd.month,
@@ -50,7 +50,7 @@ std::optional<Instant> dateByAddingWithYears(const Instant& date, long years, lo
     return saturated(direction, bc);
 
   const std::int64_t startDay = civil::floorDiv(date.seconds, 86400);
-  const std::int64_t secondOfDay = date.seconds - startDay * 86400;
+  const std::int64_t secondOfDay = civil::floorMod(date.seconds, 86400);
   civil::YearMonthDay ymd = civil::civilFromDays(startDay);
 
   // Years, then months, each clamping the day to the target month's length.

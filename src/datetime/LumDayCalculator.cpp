@@ -30,9 +30,10 @@ std::string LumDayCalculator::englishFormat(std::string_view key) {
 std::uint64_t LumDayCalculator::dayCount(const Instant& a, const Instant& b) {
   const Instant& early = std::min(a, b);
   const Instant& late = std::max(a, b);
-  std::int64_t seconds = late.seconds - early.seconds;
+  // Unsigned arithmetic: the distance of any two 64-bit values fits.
+  std::uint64_t seconds = static_cast<std::uint64_t>(late.seconds) - static_cast<std::uint64_t>(early.seconds);
   if (late.nanoseconds < early.nanoseconds) --seconds;  // borrow: not yet a whole second more
-  return static_cast<std::uint64_t>(seconds) / 86400;
+  return seconds / 86400;
 }
 
 std::string_view LumDayCalculator::formatKey(std::uint64_t days) { return days == 1 ? "day" : "days"; }

@@ -33,6 +33,13 @@ TEST(DayCount, CountsWholeDaysInEitherOrder) {
   }
 }
 
+TEST(DayCount, AnyTwoInstantsGiveADistance) {
+  const Instant first{INT64_MIN, 0}, last{INT64_MAX, 999'999'999};
+  EXPECT_EQ(LumDayCalculator::dayCount(first, last), UINT64_MAX / 86400);
+  EXPECT_FALSE(DateAdditions::getYear(last, nullptr, nullptr, nullptr, nullptr));
+  EXPECT_EQ(DateAdditions::tiffDateString(first).size() > 19, true);
+}
+
 TEST(DayCount, UsesTheLocalizedFormatsAsData) {
   const auto lookup = [](std::string_view key) {
     return std::string(key == "day" ? "%d jour" : "%ld jours %d%%");
