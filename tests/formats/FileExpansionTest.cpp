@@ -2,10 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-
-namespace fs = std::filesystem;
-
 namespace {
 
 TEST(FileExpansion, AcceptsExactlyTheEightExtensions) {
@@ -30,29 +26,6 @@ TEST(FileExpansion, NaturalOrder) {
   EXPECT_TRUE(FileExpansion::naturalPathLess("d/z.jpg", "d 2/a.jpg"));
   EXPECT_TRUE(FileExpansion::naturalPathLess("d2/z.jpg", "d10/a.jpg"));
   EXPECT_TRUE(FileExpansion::naturalPathLess("d", "d/a.jpg"));
-}
-
-class FileExpansionTree : public ::testing::Test {
- protected:
-  void SetUp() override {
-    root_ = fs::temp_directory_path() / ("lum-expand-" + std::to_string(::getpid()));
-    fs::remove_all(root_);
-    for (const char* name : {"a.jpg", "b.JPG", "c.png", "sub/d.tif", "sub/deeper/e10.jpeg", "sub/deeper/e9.jpeg"}) {
-      fs::create_directories((root_ / name).parent_path());
-      std::ofstream(root_ / name) << "x";
-    }
-  }
-  void TearDown() override { fs::remove_all(root_); }
-  fs::path root_;
-};
-
-TEST_F(FileExpansionTree, FoldersAreSearchedAtAnyDepthSortedAndTakenOnce) {
-  const auto result = FileExpansion::allPhotoPaths({root_, root_ / "a.jpg", root_ / "sub" / ".." / "b.JPG",
-                                                    root_ / "c.png", root_ / "missing.jpg"});
-  const std::vector<fs::path> expected = {root_ / "a.jpg", root_ / "b.JPG", root_ / "sub/d.tif",
-                                          root_ / "sub/deeper/e9.jpeg", root_ / "sub/deeper/e10.jpeg"};
-  EXPECT_EQ(result.files, expected);
-  EXPECT_EQ(result.missing, std::vector<fs::path>{root_ / "missing.jpg"});
 }
 
 }  // namespace

@@ -186,17 +186,4 @@ TEST(LumImageFileThumbnail, FitsTheBoxAndNeedsAnOwner) {
   EXPECT_EQ(thumb->bytesPerRow, 600);
 }
 
-TEST(LumImageFileThumbnail, ErrorImageIsTheFramedPlaceholder) {
-  const auto image = LumImageFile::errorImage();
-  ASSERT_TRUE(image);
-  EXPECT_EQ(image->width, 100);
-  EXPECT_EQ(image->height, 60);
-  ASSERT_TRUE(image->isConsistent());
-  const auto alphaAt = [&](int x, int y) { return image->pixels[static_cast<std::size_t>(y) * image->bytesPerRow + x * 4 + 3]; };
-  EXPECT_EQ(alphaAt(50, 4), 255);   // top edge of the frame
-  EXPECT_EQ(alphaAt(1, 1), 0);      // outside it
-  EXPECT_EQ(alphaAt(4, 4), 0);      // the rounded corner leaves the corner pixel clear
-  EXPECT_EQ(LumImageFile::errorImage(), image);
-}
-
 }  // namespace
