@@ -152,12 +152,4 @@ TEST(DateByAdding, KeepsNanoseconds) {
   EXPECT_EQ(sum->seconds - start->seconds, 86400);
 }
 
-TEST(TiffDateString, PrintsEraYearsAndWidensPast9999) {
-  const TimeZone gmt = TimeZone::gmt();
-  EXPECT_EQ(tiffDateString(*DateAdditions::dateWithY(-44, 3, 15, 12, 0, 0, gmt)), "0044:03:15 12:00:00");
-  EXPECT_EQ(tiffDateString(*DateAdditions::dateWithY(7, 1, 2, 3, 4, 5, gmt)), "0007:01:02 03:04:05");
-  EXPECT_EQ(tiffDateString(Instant{0, 999'999'999}), "1970:01:01 00:00:00");
-  EXPECT_EQ(tiffDateString(Instant{-1, 0}), "1969:12:31 23:59:59");
-}
-
 }  // namespace

@@ -143,6 +143,7 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(StepCase{"2019:12:07 09:05:30", Control::monthField, 1, "2019:01:07 09:05:30"},
                       StepCase{"2019:01:07 09:05:30", Control::monthField, -1, "2019:12:07 09:05:30"},
                       StepCase{"2019:02:01 09:05:30", Control::dayField, -1, "2019:02:28 09:05:30"},
+                      StepCase{"2019:01:31 09:05:30", Control::monthField, 1, "2019:02:28 09:05:30"},
                       StepCase{"2020:02:29 09:05:30", Control::dayField, 1, "2020:02:01 09:05:30"},
                       StepCase{"2019:04:30 09:05:30", Control::dayField, 1, "2019:04:01 09:05:30"},
                       StepCase{"2019:03:07 23:05:30", Control::hourField, 1, "2019:03:07 00:05:30"},
@@ -154,22 +155,6 @@ INSTANTIATE_TEST_SUITE_P(
                       StepCase{"2019:03:07 09:05:30", Control::yearField, 0, "2019:03:07 09:05:30"},
                       // Without focus in a field the year steps.
                       StepCase{"2019:03:07 09:05:30", Control::stepper, 1, "2020:03:07 09:05:30"}));
-
-TEST_F(DatePicker, SteppingTheMonthOfJanuary31LowersTheDay) {
-  show("2019:01:31 09:05:30");
-  picker_.setFocused(Control::monthField);
-  picker_.step(1);
-  EXPECT_EQ(picker_.dateTimeStringForTIFF(), "2019:02:28 09:05:30");
-}
-
-TEST_F(DatePicker, SubSecondStepsAndWraps) {
-  show("2019:03:07 09:05:30.999");
-  picker_.setFocused(Control::subSecondField);
-  picker_.step(1);
-  EXPECT_EQ(text(Control::subSecondField), "000");
-  picker_.step(-1);
-  EXPECT_EQ(picker_.subSecondStringTripleDigit(), "999");
-}
 
 TEST_F(DatePicker, AChangeIsReportedAndUndoAndRedoAlternate) {
   show("2019:03:07 09:05:30");
@@ -248,15 +233,6 @@ TEST_F(DatePicker, AValueLeavesMixedButKeepsTheOwnersStepperState) {
   EXPECT_FALSE(picker_.isStepperEnabled());
 }
 
-TEST_F(DatePicker, StepperWithoutDelegateLeavesMixedPickerAlone) {
-  picker_.setDelegate(nullptr);
-  show("2019:03:07 09:05:30");
-  picker_.setMixed(true);
-  picker_.step(1);
-  EXPECT_TRUE(picker_.isMixed());
-  EXPECT_EQ(picker_.year(), 2019);
-}
-
 TEST_F(DatePicker, MixedHidesFieldsByStyle) {
   show("2019:03:07 09:05:30");
   picker_.setMixed(true);
@@ -314,10 +290,7 @@ TEST_F(DatePicker, KeysMoveFocusAndStep) {
   EXPECT_TRUE(picker_.keyDown(OrbDatePicker::kKeyDelete, 0, false));
   EXPECT_FALSE(picker_.keyDown(OrbDatePicker::kKeyDelete, 0, true));
   EXPECT_FALSE(picker_.keyDown(18, 0, true));
-  // At the ends of the chain the focus stays; hidden fields are skipped.
-  picker_.setFocused(Control::yearField);
-  EXPECT_TRUE(picker_.keyDown(OrbDatePicker::kKeyLeft, 0, true));
-  EXPECT_EQ(picker_.focused(), Control::yearField);
+  // Hidden fields are skipped.
   picker_.setStyle(OrbDatePicker::kStyleSeconds);
   picker_.setFocused(Control::secondField);
   picker_.keyDown(OrbDatePicker::kKeyTab, 0, true);
