@@ -82,9 +82,9 @@ std::string NumberFormatter::assemble(bool negative, std::string integerDigits, 
     integerDigits.assign(1, '0');
   if (grouping_)
     for (std::size_t i = integerDigits.size(); i > 3; i -= 3) integerDigits.insert(i - 3, 1, ',');
-  const bool zero = integerDigits.find_first_not_of("0,") == std::string::npos &&
-                    fractionDigits.find_first_not_of('0') == std::string::npos;
-  std::string text = negative && !zero ? "-" : "";
+  // A negative value keeps its sign even when it rounds to zero
+  // ("-0.0000000000"), as the platform's formatters do.
+  std::string text = negative ? "-" : "";
   text += integerDigits;
   if (!fractionDigits.empty()) {
     text += '.';

@@ -6,7 +6,8 @@
 // always shown, "#" after them ones shown when not zero. "." is the decimal
 // separator and "," the grouping separator whatever the user's locale.
 // Rounding is half to even on the shortest decimal form of the value, so
-// 2.675 with two fraction digits is "2.68" and 0.125 is "0.12".
+// 2.675 with two fraction digits is "2.68" and 0.125 is "0.12". Negative
+// values keep their sign even when they round to zero: -0.001 is "-0.00".
 
 #include <string>
 #include <string_view>
