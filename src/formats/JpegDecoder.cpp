@@ -2,6 +2,7 @@
 #include <turbojpeg.h>
 
 #include <memory>
+#include <string_view>
 
 #include "formats/ImageDecoder.h"
 #include "tools/Resizing.h"
@@ -22,8 +23,16 @@ struct Header {
 };
 
 bool readHeader(tjhandle handle, orb::ByteView bytes, Header* header) {
-  return tjDecompressHeader3(handle, bytes.data(), static_cast<unsigned long>(bytes.size()), &header->width,
-                             &header->height, &header->subsampling, &header->colorspace) == 0;
+  if (tjDecompressHeader3(handle, bytes.data(), static_cast<unsigned long>(bytes.size()), &header->width,
+                          &header->height, &header->subsampling, &header->colorspace) == 0)
+    return true;
+  // TurboJPEG also refuses a header that libjpeg read without complaint
+  // when the sampling factors or colour space have no TurboJPEG name; the
+  // size is known by then, and such an image is still a real JPEG.
+  const std::string_view message = tjGetErrorStr2(handle);
+  const bool onlyUnnamed = message.find("Could not determine subsampling") != std::string_view::npos ||
+                           message.find("Could not determine colorspace") != std::string_view::npos;
+  return onlyUnnamed && header->width > 0 && header->height > 0;
 }
 
 // The largest reduction (1/8, 1/4, 1/2) that still leaves at least the

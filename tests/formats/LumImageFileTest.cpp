@@ -186,4 +186,15 @@ TEST(LumImageFileThumbnail, FitsTheBoxAndNeedsAnOwner) {
   EXPECT_EQ(thumb->bytesPerRow, 600);
 }
 
+TEST(LumImageFileOpen, UnusualSamplingFactorsStillOpen) {
+  // 1 x 3 luma sampling has no TurboJPEG name; libjpeg reads the header.
+  lumtest::Bytes bytes = JpegBuilder().build();
+  std::size_t sof = 2;
+  while (sof + 11 < bytes.size() && !(bytes[sof] == 0xFF && bytes[sof + 1] == 0xC0)) ++sof;
+  ASSERT_LT(sof + 11, bytes.size());
+  bytes[sof + 11] = 0x13;  // first component's sampling factors
+  const auto o = lumtest::openBytes(bytes);
+  EXPECT_TRUE(o.file) << o.error.reason;
+}
+
 }  // namespace
