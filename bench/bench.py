@@ -26,6 +26,8 @@ def parse_args(argv):
     p.add_argument("--results", help="Markdown file to write the results to")
     p.add_argument("--command", default="bench/run", help="the command line, for the record")
     p.add_argument("--note", default="", help="a line about the conditions of this run")
+    p.add_argument("--report-only", action="store_true",
+                   help="write the table again from the last run's results.json (e.g. after editing notes.md)")
     p.add_argument("--shift-sets", default="small,large",
                    help="comma-separated sets to time shifting on (default: small,large)")
     return p.parse_args(argv)
@@ -122,6 +124,9 @@ def run_model_bench(model, scratch, small, large):
 def main(argv):
     args = parse_args(argv)
     repo = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
+    if args.report_only:
+        with open(os.path.join(args.scratch, "results.json")) as f:
+            return write_report(json.load(f), repo, args.results)
     load_at_start = load_average()
     os.makedirs(args.scratch, exist_ok=True)
     log_dir = os.path.join(args.scratch, "logs")
@@ -160,17 +165,23 @@ def main(argv):
             args.runs, os.path.join(args.scratch, "work"), log_dir, shifting=True)
 
     results["model"], model_note = run_model_bench(args.model, args.scratch, args.small, args.large)
+    record = {"results": results, "sets": set_lines, "command": args.command, "model_note": model_note,
+              "machine": machine_description(args.scratch, repo, load_at_start, args.note)}
     with open(os.path.join(args.scratch, "results.json"), "w") as f:
-        json.dump(results, f, indent=1)
-    machine = machine_description(args.scratch, repo, load_at_start, args.note)
+        json.dump(record, f, indent=1)
+    return write_report(record, repo, args.results)
+
+
+def write_report(record, repo, results_path):
     # The reading of the figures, written by people, kept in bench/notes.md.
     notes_path = os.path.join(repo, "bench", "notes.md")
     notes = open(notes_path).read() if os.path.exists(notes_path) else ""
-    text = report.render(results, machine, set_lines, args.command, model_note, notes)
+    text = report.render(record["results"], record["machine"], record["sets"], record["command"],
+                         record["model_note"], notes)
     print()
     print(text)
-    if args.results:
-        with open(args.results, "w") as f:
+    if results_path:
+        with open(results_path, "w") as f:
             f.write(text)
     return 0
 
