@@ -52,16 +52,4 @@ TEST(DateRewrite, PatchesForTexts) {
   }
 }
 
-TEST(DateRewrite, AppliedCopyChangesOnlyThePatchedBytesAndSkipsOutside) {
-  std::vector<std::uint8_t> data(64, 0xAA);
-  const auto copy = DateRewrite::applied(orb::ByteView(data.data(), data.size()), {{40, kA}, {50, kB}});
-  ASSERT_EQ(copy.size(), data.size());
-  for (std::size_t i = 0; i < copy.size(); ++i) {
-    if (i >= 40 && i < 59)
-      EXPECT_EQ(copy[i], static_cast<std::uint8_t>(kA[i - 40])) << i;
-    else
-      EXPECT_EQ(copy[i], 0xAA) << i;
-  }
-}
-
 }  // namespace

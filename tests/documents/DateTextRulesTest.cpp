@@ -55,28 +55,6 @@ TEST(DateTextRules, ShiftedTextIsTheSameInEveryZone) {
   });
 }
 
-TEST(DateTextRules, RangeCheckOfAShift) {
-  struct Case {
-    std::optional<std::string> text;
-    Offsets offsets;
-    bool leaves;
-  };
-  const std::vector<Case> cases{
-      {"0001:06:01 00:00:00", {-1, 0, 0, 0, 0, 0}, true},
-      {"0001:06:01 00:00:00", {0, -5, 0, 0, 0, 0}, false},
-      {"0001:01:01 00:00:00", {0, 0, 0, 0, 0, -1}, true},
-      {"9999:12:31 23:59:59", {0, 0, 0, 0, 0, 1}, true},
-      {"9999:12:31 23:59:58", {0, 0, 0, 0, 0, 1}, false},
-      {"garbage", {-9999, 0, 0, 0, 0, 0}, false},  // unparsable dates are passed over
-      {std::string(), {-9999, 0, 0, 0, 0, 0}, false},
-      {std::nullopt, {-9999, 0, 0, 0, 0, 0}, false},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.text.value_or("(none)"));
-    EXPECT_EQ(shiftLeavesRange(c.text, c.offsets), c.leaves);
-  }
-}
-
 TEST(DateTextRules, NormalizedTypedText) {
   const std::vector<std::pair<const char*, std::optional<std::string>>> cases{
       {"2021/3/4 5:06:07", "2021:03:04 05:06:07"},
@@ -100,14 +78,6 @@ TEST(DateTextRules, NormalizedTypedText) {
       EXPECT_EQ(normalizedDateTimeString(typed), expected);
     }
   });
-}
-
-TEST(DateTextRules, MonthLength) {
-  const std::vector<std::tuple<long, long, int>> cases{
-      {2023, 2, 28}, {2024, 2, 29}, {1900, 2, 28}, {2000, 2, 29}, {2023, 4, 30}, {2023, 11, 30},
-      {2023, 1, 31}, {2023, 12, 31}, {2023, 0, 31}, {2023, 13, 31},
-  };
-  for (const auto& [year, month, days] : cases) EXPECT_EQ(monthLength(year, month), days) << year << '-' << month;
 }
 
 }  // namespace

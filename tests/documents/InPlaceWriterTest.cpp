@@ -52,29 +52,6 @@ TEST_F(WriterFixture, ChangesExactlyThePatchedBytesWithOneWriteOverTheirSpan) {
   EXPECT_EQ(calls[0].second, 300u + 19u - 40u);
 }
 
-TEST_F(WriterFixture, LastBytesOfTheFileCanBeWritten) {
-  const std::vector<BytePatch> patches{{400 - 19, kDate}};
-  ASSERT_TRUE(writePatches(file, opened, patches).ok);
-  EXPECT_EQ(readBytes(file), expectedWith(patches));
-}
-
-TEST_F(WriterFixture, NoPatchesWritesNothing) {
-  const WriteFunction never = [](int, const void*, std::size_t, off_t) -> ssize_t {
-    ADD_FAILURE() << "nothing should be written";
-    return -1;
-  };
-  EXPECT_TRUE(writePatches(file, opened, {}, never).ok);
-}
-
-TEST_F(WriterFixture, ShortWritesAreContinued) {
-  const std::vector<BytePatch> patches{{10, kDate}, {100, kDate}};
-  const WriteFunction oneByteAtATime = [](int fd, const void* buf, std::size_t, off_t off) {
-    return ::pwrite(fd, buf, 1, off);
-  };
-  ASSERT_TRUE(writePatches(file, opened, patches, oneByteAtATime).ok);
-  EXPECT_EQ(readBytes(file), expectedWith(patches));
-}
-
 TEST_F(WriterFixture, AFailedWriteIsReportedAndThePartialWriteUndone) {
   const std::vector<BytePatch> patches{{10, kDate}, {100, kDate}};
   std::size_t budget = 25;  // the "disk" takes 25 bytes, then fails once

@@ -161,28 +161,6 @@ TEST_F(SaveFixture, AFileThatCannotBeSavedIsReportedWhileTheOthersAreSaved) {
   }
 }
 
-TEST_F(SaveFixture, AWriteThatFailsPartWayLeavesTheFileAsItWas) {
-  open({{"a.jpg", {kA, kA, kA}}});
-  const auto before = readBytes(folder / "a.jpg");
-  doc->setEditStateOnAllFiles();
-  doc->setFieldValue(Doc::Year, 3);
-  doc->applyToAllFiles();
-  int calls = 0;
-  doc->setWriteFunction([&calls](int fd, const void* buffer, std::size_t count, off_t offset) -> ssize_t {
-    if (calls++ == 0) return ::pwrite(fd, buffer, std::min<std::size_t>(count, 7), offset);
-    if (calls == 2) {
-      errno = EIO;
-      return -1;
-    }
-    return ::pwrite(fd, buffer, count, offset);
-  });
-  const LumSaveOutcome outcome = save();
-  ASSERT_EQ(outcome.failures.size(), 1u);
-  EXPECT_EQ(outcome.failures[0].reason, std::system_category().message(EIO));
-  EXPECT_EQ(readBytes(folder / "a.jpg"), before);
-  EXPECT_TRUE(doc->hasEditedFile());
-}
-
 TEST_F(SaveFixture, SavingTheSelectionOnly) {
   open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, kB, kB}}});
   const auto beforeB = readBytes(folder / "b.jpg");

@@ -87,17 +87,6 @@ TEST_F(DocFixture, ApplyUndoRedoOverSeveralFiles) {
   }
 }
 
-TEST_F(DocFixture, OnlyMarkedFilesChange) {
-  const auto doc = open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, kB, kB}}});
-  doc->setEditStateOffAllFiles();
-  doc->setSelectedRows({*doc->rowOf(doc->itemForURL(folder / "b.jpg"))});
-  doc->setEditStateOnSelectedFiles();
-  doc->setFieldValue(Doc::Hour, 1);
-  doc->applyToAllFiles();
-  EXPECT_EQ(texts(*doc, "a.jpg"), (Texts{kA, kA, kA}));
-  EXPECT_EQ(texts(*doc, "b.jpg"), (Texts{"2020:01:01 00:30:00", "2020:01:01 00:30:00", "2020:01:01 00:30:00"}));
-}
-
 TEST_F(DocFixture, RangeCheckDisablesApplyAndShowsTheWarning) {
   const auto doc = open({{"early.jpg", {"0001:06:01 00:00:00", kNo, kA}}, {"b.jpg", {kB, kB, kB}}});
   doc->setEditStateOnAllFiles();
@@ -138,13 +127,6 @@ TEST_F(DocFixture, AFileMissingADateKeepsItAbsent) {
   EXPECT_EQ(texts(*doc, "a.jpg"), (Texts{kA, kNo, kA}));
 }
 
-TEST_F(DocFixture, AFileWithoutDatesCannotBeMarked) {
-  const auto doc = open({{"none.jpg", {}}, {"a.jpg", {kA, kA, kA}}});
-  doc->setEditStateOnAllFiles();
-  EXPECT_EQ(doc->_editTargetDocuments().size(), 1u);
-  EXPECT_EQ(doc->_editTargetDocuments()[0]->fileName(), "a.jpg");
-}
-
 TEST_F(DocFixture, RestoreBringsBackTheFileDatesAndIsUndoable) {
   const auto doc = open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, kNo, kB}}});
   doc->setEditStateOnAllFiles();
@@ -170,20 +152,6 @@ TEST_F(DocFixture, RestoreBringsBackTheFileDatesAndIsUndoable) {
   clean->restoreAllFiles();
   EXPECT_EQ(clean->undoStack().count(), 1);
   EXPECT_FALSE(clean->hasEditedFile());
-}
-
-TEST_F(DocFixture, RestoreClickedRowOutsideTheSelection) {
-  const auto doc = open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, kB, kB}}});
-  doc->setSelectedRows({0});
-  doc->setClickedRow(1);
-  bool outside = false;
-  const auto items = doc->pDocumentsByRightCliced(&outside);
-  EXPECT_TRUE(outside);
-  ASSERT_EQ(items.size(), 1u);
-  EXPECT_EQ(items[0], &doc->item(1));
-  const Doc::MenuState state = doc->validateMenuItem(Doc::MenuCommand::RestoreSelected);
-  EXPECT_EQ(state.title, "Restore Clicked File");
-  EXPECT_FALSE(state.enabled);  // nothing edited yet
 }
 
 struct TypedCase {

@@ -62,14 +62,4 @@ TEST(RewriteOnFiles, SingleFileRewriteSkipsDisabledPickers) {
     EXPECT_TRUE((i >= original && i < original + 19) || (i >= edited && i < edited + 19)) << i;
 }
 
-TEST(RewriteOnFiles, UtcDescriptionIgnoresTheLocalZone) {
-  const TimeZone utc = TimeZone::gmt();
-  ::setenv("TZ", "Pacific/Kiritimati", 1);
-  ::tzset();
-  EXPECT_EQ(DateRewrite::utcDescription(*DateAdditions::dateWithY(2024, 2, 29, 23, 59, 59, utc)),
-            "2024-02-29 23:59:59 +0000");
-  ::unsetenv("TZ");
-  ::tzset();
-}
-
 }  // namespace
