@@ -44,14 +44,16 @@ TEST(DocumentSave, FailedFilesAreReportedByNameAndKeepTheirEdits) {
   }
   auto doc = reltest::openDocument(paths);
   reltest::shiftAllOneDay(*doc);
+  ASSERT_GE(doc->editedFileCount(), 5u);
 
   // The faults go round the rows in turn; every fifth row is left alone.
   static constexpr Fault kFaults[] = {Fault::Deleted, Fault::ReadOnly, Fault::Touched, Fault::WriteFails, Fault::None};
+  // A photo whose dates cannot be read stays unedited and is not saved.
   std::map<std::string, Row> rows;
   for (int r = 0; r < doc->rowCount(); ++r) {
     const LumFileItemDoc& item = doc->item(r);
-    ASSERT_TRUE(item.isEdited()) << item.fileName();
-    Row row{reltest::readAll(item.path()), {}, item.dateTexts(), kFaults[r % 5]};
+    if (!item.isEdited()) continue;
+    Row row{reltest::readAll(item.path()), {}, item.dateTexts(), kFaults[rows.size() % 5]};
     row.intended = DateRewrite::applied(orb::ByteView(row.opened.data(), row.opened.size()), item.datePatches());
     rows.emplace(item.fileName(), std::move(row));
   }
