@@ -1,0 +1,59 @@
+// Saving of the single-file document: the enabled pickers' dates are written
+// into the file in place, on the document's thread, through the same writer
+// as the multi-file document.
+#include "datetime/TimeZone.h"
+#include "documents/DateRewrite.h"
+#include "documents/LumLocalized.h"
+#include "documents/LumNotificationCenter.h"
+#include "documents/LumSingleFileDoc.h"
+
+LumSingleFileDoc::Dates LumSingleFileDoc::pickerDatesToWrite() const {
+  Dates dates;
+  for (const DateTargets::Target& t : DateTargets::kTargets) {
+    const OrbDatePicker& p = picker(t.index);
+    // A disabled picker, or an enabled one left without a complete value,
+    // has nothing to write.
+    if (p.isEnabled() && fileHasDate(t.index) && p.dateTimeString())
+      dates[t.index] = p.dateValueWithTimeZone(TimeZone::gmt());
+  }
+  return dates;
+}
+
+std::vector<std::uint8_t> LumSingleFileDoc::pMakeNewDateWithData(orb::ByteView data) const {
+  if (!imageFile_) return {data.data(), data.data() + data.size()};
+  return DateRewrite::pMakeNewDateWithData(data, *imageFile_, pickerDatesToWrite());
+}
+
+bool LumSingleFileDoc::saveFileAll(bool /*all*/, bool closeAfterSave, bool quitApp) {
+  InPlaceWriter::WriteResult written{false, InPlaceWriter::kMissingReason};
+  if (imageFile_ && fileURL_) {
+    const std::vector<InPlaceWriter::BytePatch> patches =
+        DateRewrite::patchesForPickerDates(DateRewrite::locationsOf(*imageFile_), pickerDatesToWrite());
+    const std::optional<lum::FileStamp> opened = imageFile_->stampAsOpened();
+    written = opened ? InPlaceWriter::writePatches(
+                           *fileURL_, {opened->size, opened->mtimeSeconds, opened->mtimeNanoseconds}, patches,
+                           writeFunction_)
+                     : InPlaceWriter::WriteResult{false, InPlaceWriter::kChangedOnDiskReason};
+  }
+
+  SaveOutcome outcome;
+  outcome.saved = written.ok;
+  if (written.ok) {
+    undoStack_.clear();  // clean, and a save cannot be undone
+    // Read the saved file again so the originals, the stamp and the bytes
+    // are what is on disk now. Should that fail, the old model stays.
+    if (std::unique_ptr<LumImageFile> reread = LumImageFile::imageFileWithURL(*fileURL_, nullptr))
+      replaceImageFile(std::move(reread));
+    outcome.closeDocument = closeAfterSave;
+    outcome.continueQuit = quitApp;
+  } else {
+    const QString name = fileURL_ ? QString::fromStdString(fileURL_->filename().string()) : QString();
+    outcome.alert = AlertTexts{LumLocalized::format("Save a file Failed.", name),
+                               QString::fromStdString(written.reason)};
+  }
+  lastSaveOutcome_ = outcome;
+  emit saveFinished(outcome);
+  if (written.ok && !closeAfterSave && !quitApp)
+    LumNotificationCenter::defaultCenter().post(kLumImageFileDidSaveNotification, selectedImageFile());
+  return written.ok;
+}
