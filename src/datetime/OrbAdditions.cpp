@@ -36,6 +36,8 @@ std::optional<Instant> TiffDateFormatter::dateFromString(std::string_view text) 
 
 namespace OrbAdditions {
 
+DateFormatter nullLocaleDateFormatter() { return DateFormatter(); }
+
 const TiffDateFormatter& dateFormatterForTIFF() {
   static const TiffDateFormatter formatter;
   return formatter;

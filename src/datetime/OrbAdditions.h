@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "datetime/DateFormatter.h"
 #include "datetime/Instant.h"
 #include "datetime/NumberFormatter.h"
 
@@ -22,6 +23,8 @@ class TiffDateFormatter {
 
 namespace OrbAdditions {
 
+// A new pattern formatter in the local zone, with English names.
+DateFormatter nullLocaleDateFormatter();
 const TiffDateFormatter& dateFormatterForTIFF();
 
 // A new plain formatter: whole numbers, no grouping, "." as separator.

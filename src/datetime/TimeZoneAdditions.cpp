@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "datetime/DateAdditions.h"
+#include "datetime/DateFormatter.h"
 #include "datetime/NumericText.h"
 
 namespace TimeZoneAdditions {
@@ -36,18 +37,12 @@ std::string stringTimeZoneForSecondsFromGMT(long seconds) {
 std::string timeZoneString(const TimeZone& zone) { return timeZoneStringWithDate(zone, Instant::now()); }
 
 std::string timeZoneStringWithDate(const TimeZone& zone, const Instant& date) {
-  const auto offset = zone.secondsFromGMT(date.seconds);
-  if (!offset || *offset == 0) return "+00:00";
-  // Written as "yyyy-MM-dd HH:mm:ss +hh:mm[:ss]" and read back by the date
-  // parser, which keeps only offsets it can represent.
-  long y = 0, m = 0, d = 0, h = 0, mi = 0, s = 0;
-  if (!DateAdditions::getYear(date, &y, &m, &d, nullptr, &h, &mi, &s, &zone, nullptr)) return "+00:00";
-  const unsigned long magnitude = *offset < 0 ? static_cast<unsigned long>(-*offset) : *offset;
-  std::string text = numtext::format("%.4ld-%.2ld-%.2ld %.2ld:%.2ld:%.2ld %s%.2lu:%.2lu", y, m, d, h, mi, s,
-                                     *offset < 0 ? "-" : "+", magnitude / 3600, magnitude / 60 % 60);
-  if (magnitude % 60 != 0) text += numtext::format(":%.2lu", magnitude % 60);
+  // Formatted with its offset and read back by the date parser, which keeps
+  // only offsets it can represent. One formatter per call: no shared state.
+  const DateFormatter formatter("yyyy-MM-dd HH:mm:ss ZZZZZ", zone);
   std::string zoneText;
-  if (!DateAdditions::getDateTimeStrings(text, nullptr, nullptr, nullptr, &zoneText, true, false) ||
+  if (!DateAdditions::getDateTimeStrings(formatter.stringFromDate(date), nullptr, nullptr, nullptr, &zoneText, true,
+                                         false) ||
       zoneText.empty() || zoneText == "Z")
     return "+00:00";
   return zoneText;

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "datetime/DateAdditions.h"
+#include "datetime/DateFormatter.h"
 #include "datetime/OrbAdditions.h"
 #include "datetime/TimeZoneAdditions.h"
 #include "datetime/ZoneGuard.h"
@@ -58,6 +59,28 @@ TEST(TiffDateFormatter, ParsesOnlyTheStrictExifForm) {
                           "2019-03-07 09:05:30", "2019:03:07 09:05:3", "2019:03:07 09:05:30 ", "2019:03:07T09:05:30",
                           "2019:03:07 09:60:00", "2O19:03:07 09:05:30", "    :  :     :  :  "})
     EXPECT_FALSE(f.dateFromString(bad)) << bad;
+}
+
+TEST(DateFormatter, FormatsPatternsInItsZone) {
+  const Instant date = *DateAdditions::dateWithDateTimeString("2019:03:07 23:05:30.123");
+  const Instant bc = *DateAdditions::dateWithDateTimeString("-0044:03:15 12:00:00");
+  struct Case {
+    const char* pattern;
+    long offset;
+    const Instant* date;
+    const char* text;
+  } cases[] = {
+      {"yyyy-MM-dd HH:mm:ss ZZZZZ", 0, &date, "2019-03-07 23:05:30 Z"},
+      {"yyyy-MM-dd HH:mm:ss ZZZZZ", 34200, &date, "2019-03-08 08:35:30 +09:30"},
+      {"yyyy-MM-dd HH:mm:ss ZZZZZ", -17762, &date, "2019-03-07 18:09:28 -04:56:02"},
+      {"E d.M.yy HH:mm:ss.SSS Z", -3600, &date, "Thu 7.3.19 22:05:30.123 -0100"},
+      {"'at' HH 'o''clock' '' G", 0, &date, "at 23 o'clock ' AD"},
+      {"yyyy G", 0, &bc, "0044 BC"},
+  };
+  for (const Case& c : cases)
+    EXPECT_EQ(DateFormatter(c.pattern, TimeZone::withSecondsFromGMT(c.offset)).stringFromDate(*c.date), c.text)
+        << c.pattern;
+  EXPECT_EQ(DateFormatter("yyyy", TimeZone::gmt()).stringFromDate(Instant{INT64_MAX, 0}), "");
 }
 
 TEST(NumberFormatters, SharedFormattersGroupThousands) {
