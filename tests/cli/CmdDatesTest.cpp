@@ -1,5 +1,5 @@
 // lumidate-cli dates, run as a program: JSON over the real files against
-// their design records, folder expansion and order, exit statuses.
+// their expected records, folder expansion and order, exit statuses.
 #include <gtest/gtest.h>
 
 #include <array>
@@ -37,7 +37,7 @@ CliRun runCli(const std::vector<std::string>& args) {
   return run;
 }
 
-TEST(CmdDates, JsonOverTheRealFilesMatchesTheDesignRecords) {
+TEST(CmdDates, JsonOverTheRealFilesMatchesTheExpectedRecords) {
   LUMTEST_REQUIRE_REAL_DATA();
   const fs::path dir = *lumtest::realDataDir();
   // The folder twice and one of its files again: each file is listed once.
@@ -50,15 +50,15 @@ TEST(CmdDates, JsonOverTheRealFilesMatchesTheDesignRecords) {
   for (const json& element : array) {
     const std::string name = fs::path(element.at("path").get<std::string>()).filename().string();
     SCOPED_TRACE(name);
-    const json& design = lumtest::expectedFor(name).at("design");
-    if (!design.at("opens").get<bool>()) {
-      EXPECT_EQ(element.at("error"), (json{{"domain", "LumErrorDomain"}, {"code", design.at("error_code")}}));
+    const json& expected = lumtest::expectedFor(name).at("design");
+    if (!expected.at("opens").get<bool>()) {
+      EXPECT_EQ(element.at("error"), (json{{"domain", "LumErrorDomain"}, {"code", expected.at("error_code")}}));
       EXPECT_EQ(element.size(), 2u);
       continue;
     }
     for (const char* key : {"DateTimeOriginal", "DateTimeDigitized", "DateTime", "SubSecTimeOriginal",
                             "SubSecTimeDigitized", "SubSecTime", "editable"})
-      EXPECT_EQ(element.at(key), design.at(key)) << key;
+      EXPECT_EQ(element.at(key), expected.at(key)) << key;
     EXPECT_EQ(element.size(), 8u);
   }
 }

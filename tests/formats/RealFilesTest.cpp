@@ -1,4 +1,4 @@
-// Every real camera file opens (or fails) exactly as its design record in
+// Every real camera file opens (or fails) exactly as its expected record in
 // expected.json says: error code, TIFF header, kept dates, sub-second texts,
 // date value offsets, JFIF fields and segment ranges.
 #include <gtest/gtest.h>
@@ -39,7 +39,7 @@ json dateOffsets(const LumImageFile& f) {
   return j;
 }
 
-// What the model shows for a file, in the shape of a design record.
+// What the model shows for a file, in the shape of an expected record.
 json shown(const LumImageFile& f) {
   return {
       {"tiffHeaderLocation", f.tiff() ? json(f.tiff()->tiffHeaderLocation()) : json(nullptr)},
@@ -57,28 +57,28 @@ json shown(const LumImageFile& f) {
   };
 }
 
-TEST(RealFiles, EveryFileAgreesWithItsDesignRecord) {
+TEST(RealFiles, EveryFileAgreesWithItsExpectedRecord) {
   LUMTEST_REQUIRE_REAL_DATA();
   const auto names = lumtest::realFileNames();
   ASSERT_FALSE(names.empty());
   for (const std::string& name : names) {
     SCOPED_TRACE(name);
-    const json& design = lumtest::expectedFor(name).at("design");
+    const json& expected = lumtest::expectedFor(name).at("design");
     LumError error;
     const auto file = LumImageFile::imageFileWithURL(*lumtest::realDataDir() / name, &error);
-    if (!design.at("opens").get<bool>()) {
+    if (!expected.at("opens").get<bool>()) {
       EXPECT_EQ(file, nullptr);
       EXPECT_EQ(error.domain, "LumErrorDomain");
-      EXPECT_EQ(json(error.code), design.at("error_code"));
+      EXPECT_EQ(json(error.code), expected.at("error_code"));
       continue;
     }
     ASSERT_TRUE(file) << error.code << " " << error.reason;
     const json got = shown(*file);
     std::set<std::string> skipped;
-    for (const auto& field : design.at("ambiguous")) skipped.insert(field.is_string() ? field.get<std::string>() : "");
+    for (const auto& field : expected.at("ambiguous")) skipped.insert(field.is_string() ? field.get<std::string>() : "");
     for (const auto& [key, value] : got.items()) {
       if (!skipped.count(key)) {
-        EXPECT_EQ(value, design.at(key)) << key;
+        EXPECT_EQ(value, expected.at(key)) << key;
       }
     }
   }
