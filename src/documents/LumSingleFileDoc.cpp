@@ -2,6 +2,7 @@
 
 #include "datetime/DateAdditions.h"
 #include "datetime/TimeZone.h"
+#include "documents/LumCTISheet.h"
 #include "documents/LumDateLimits.h"
 #include "documents/LumLocalized.h"
 #include "documents/LumNotificationCenter.h"
@@ -124,6 +125,12 @@ LumSingleFileDoc::Dates LumSingleFileDoc::valuesForIntervalSheet() const {
   for (const DateTargets::Target& t : DateTargets::kTargets)
     if (picker(t.index).isEnabled()) values[t.index] = picker(t.index).dateValue();
   return values;
+}
+
+void LumSingleFileDoc::showChangeByTimeIntervalSheet(LumCTISheet& sheet) const {
+  const Dates values = valuesForIntervalSheet();
+  sheet.setUpWithOriginalDate(values[DateTargets::Original], values[DateTargets::Digitized],
+                              values[DateTargets::Edited]);
 }
 
 bool LumSingleFileDoc::changeDateWithYears(long years, long months, long days, long hours, long minutes,

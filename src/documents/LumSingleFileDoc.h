@@ -28,6 +28,8 @@
 #include "documents/InPlaceWriter.h"
 #include "formats/LumImageFile.h"
 
+class LumCTISheet;
+
 class LumSingleFileDoc : public QObject, public LumImageFileOwner, private OrbDatePicker::Delegate {
   Q_OBJECT
 
@@ -95,6 +97,8 @@ class LumSingleFileDoc : public QObject, public LumImageFileOwner, private OrbDa
   // The values handed to the change-by-interval sheet: the enabled pickers'
   // values, none for a disabled picker.
   Dates valuesForIntervalSheet() const;
+  // Hands those values to the application's sheet before it is shown.
+  void showChangeByTimeIntervalSheet(LumCTISheet& sheet) const;
   // Shifts the dates in targetMask (bits 1 original, 2 digitized, 4 edited)
   // by the six counts, backward unless forward. A date without a value keeps
   // none. False, with nothing changed, when a result would leave the

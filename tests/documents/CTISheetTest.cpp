@@ -63,8 +63,7 @@ TEST(CTISheet, OKShiftsTheDocumentAndBothButtonsReset) {
                               "JPEG", nullptr));
   for (const int tag : {0, Sheet::kOKTag}) {
     Sheet sheet;
-    const LumSingleFileDoc::Dates values = doc.valuesForIntervalSheet();
-    sheet.setUpWithOriginalDate(values[Original], values[Digitized], values[Edited]);
+    doc.showChangeByTimeIntervalSheet(sheet);
     sheet.controlTextDidChange(Sheet::Day, 10);
     sheet.closeCTISheet(tag, &doc);
     EXPECT_EQ(sheet.fieldValue(Sheet::Day), 0);
