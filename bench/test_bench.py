@@ -1,6 +1,8 @@
 """Checks of the benchmark's own parts: the set generator's patching, the
 floor program, and the arithmetic of the results table. Run by bench/run
 before it measures anything (python3 -m unittest bench/test_bench.py)."""
+import contextlib
+import io
 import os
 import shutil
 import subprocess
@@ -197,6 +199,72 @@ class MeasureTest(unittest.TestCase):
         self.assertEqual(last, "last words")
         self.assertGreater(rss, 0)
         self.assertGreater(wall, 0)
+
+
+@unittest.skipUnless(all(shutil.which(t) for t in ("cjpeg", "exiftool")) and os.path.exists(measure.TIME),
+                     "cjpeg, exiftool or GNU time is not installed")
+class MeasureSetTest(unittest.TestCase):
+    """A shift that does nothing must not pass for a fast one, and a program
+    that is missing or fails must be reported, not timed."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.root = tempfile.mkdtemp(prefix="bench-measure-test-")
+        gensets.build_set(cls.root, "small", 3)
+        cls.folder = os.path.join(cls.root, "sets", "small")
+
+    @classmethod
+    def tearDownClass(cls):
+        shutil.rmtree(cls.root)
+
+    def measure(self, programs, shifting):
+        logs = os.path.join(self.root, "logs")
+        os.makedirs(logs, exist_ok=True)
+        with contextlib.redirect_stdout(io.StringIO()):
+            result = measure.measure_set("t", self.folder, gensets.dates_for(1)["DateTimeOriginal"],
+                                         programs, 2, os.path.join(self.root, "work"), logs, shifting)
+        return {p["key"]: p for p in result["programs"]}
+
+    def test_shifting_is_checked_and_failures_are_reported(self):
+        programs = [
+            measure.Program("real", "real", "peer",
+                            ["exiftool", "-q", "-overwrite_original_in_place", "-AllDates+=1"]),
+            measure.Program("noop", "noop", "peer", ["true"]),
+            measure.Program("broken", "broken", "peer", ["sh", "-c", "echo boom >&2; exit 4", "sh"]),
+            measure.Program("absent", "absent", "lumidate", ["true"],
+                            probe=[os.path.join(self.root, "no-such-cli")], missing="not built yet"),
+        ]
+        got = self.measure(programs, shifting=True)
+        self.assertIsNone(got["real"]["skip"])
+        self.assertEqual(len(got["real"]["walls"]), 2)
+        self.assertIn("did not shift", got["noop"]["skip"])
+        self.assertEqual(got["broken"]["skip"], "failed (exit 4): boom")
+        self.assertEqual(got["absent"]["skip"], "not built yet")
+        # The originals are never touched: shifting works on copies.
+        gensets.check_with_exiftool(self.folder, [1, 3])
+
+    def test_reading_is_timed_on_every_file(self):
+        counter = os.path.join(self.root, "count.sh")
+        with open(counter, "w") as f:
+            f.write('echo "$#" >> "%s"\n' % os.path.join(self.root, "counts"))
+        got = self.measure([measure.Program("c", "c", "peer", ["sh", counter])], shifting=False)
+        with open(os.path.join(self.root, "counts")) as f:
+            counts = [int(line) for line in f]
+        # warm-up, two one-file start-up runs, two timed runs
+        self.assertEqual(sorted(counts), [1, 1, 3, 3, 3])
+        self.assertEqual(len(got["c"]["walls"]), 2)
+
+
+class RenderTest(unittest.TestCase):
+    def test_skipped_programs_and_missing_model_still_give_every_section(self):
+        read = {"count": 5, "programs": [program("floor", "floor", [0.01]),
+                                         program("lumidate", "lumidate", [], skip="not built yet")]}
+        machine = {"date": "d", "commit": "c", "lines": [("CPU", "x")]}
+        text = report.render({"read": {"small": read}, "shift": {}, "model": None}, machine,
+                             [("small", "5 files")], "bench/run", "Not measured.", "A note.")
+        for part in ("## Machine", "## Sets", "small set (5 files)", "| lumidate | not built yet |",
+                     "Not measured.", "## Goals", "## Notes\n\nA note."):
+            self.assertIn(part, text)
 
 
 if __name__ == "__main__":
