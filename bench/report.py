@@ -155,7 +155,7 @@ def render(results, machine, sets, command, model_note, notes=""):
            "over the set (it weighs more on the 500-file set than on the 10,000-file one).",
            "Shifting is checked after every run: an independent reader (exiftool) must see the first",
            "file's DateTimeOriginal one hour later. Lumidate and the durable floor call fsync for",
-           "each file; the peers rewrite each file whole and call no fsync (checked with strace).",
+           "each file; the peers rewrite each file whole and call no fsync (checked once with strace).",
            "", "## Machine", ""]
     out += ["- %s: %s" % (k, v) for k, v in machine["lines"]]
     out += ["", "## Sets", ""]
