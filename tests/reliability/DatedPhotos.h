@@ -1,7 +1,7 @@
 #pragma once
 // Real camera files that carry date texts, copied into a scratch folder, with
 // the byte patches of a date change and the bytes the file must hold after
-// it. Shared by the save fault tests and the kill test.
+// it. Shared by the save fault tests and the document save test.
 
 #include <cstdint>
 #include <filesystem>
