@@ -1,7 +1,12 @@
 #include "documents/LumNotificationCenter.h"
 
 LumNotificationCenter& LumNotificationCenter::defaultCenter() {
-  static LumNotificationCenter center;
+  static LumNotificationCenter& center = [] () -> LumNotificationCenter& {
+    // Receivers on other threads (queued connections) need the argument type known.
+    qRegisterMetaType<const void*>("const void*");
+    static LumNotificationCenter instance;
+    return instance;
+  }();
   return center;
 }
 
