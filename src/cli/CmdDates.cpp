@@ -25,11 +25,29 @@ namespace {
 
 namespace fs = std::filesystem;
 
+// What is printed of one file. Only these texts are kept, not the opened
+// file, so that each file's mapping is released as soon as it has been read:
+// listing a folder of thousands of photos holds no more than a few at once.
+struct Dates {
+  std::optional<std::string> original, digitized, edited;
+  std::optional<std::string> subSecOriginal, subSecDigitized, subSecEdited;
+  bool editable = false;
+};
+
 struct Outcome {
   fs::path path;
-  std::unique_ptr<LumImageFile> file;
+  std::optional<Dates> dates;  // none when the file could not be opened
   LumError error;
 };
+
+std::optional<Dates> readDates(const fs::path& path, LumError* error) {
+  const std::unique_ptr<LumImageFile> f = LumImageFile::imageFileWithURL(path, error);
+  if (!f) return std::nullopt;
+  return Dates{f->originalDateTimeOriginalString(),       f->originalDateTimeDigitizedString(),
+               f->originalDateTimeString(),               f->originalSubSecDateTimeOriginalString(),
+               f->originalSubSecDateTimeDigitizedString(), f->originalSubSecDateTimeString(),
+               f->isEdit()};
+}
 
 std::vector<Outcome> openAll(const std::vector<fs::path>& paths) {
   std::vector<Outcome> outcomes(paths.size());
@@ -37,7 +55,7 @@ std::vector<Outcome> openAll(const std::vector<fs::path>& paths) {
   const auto work = [&] {
     for (std::size_t i = next++; i < paths.size(); i = next++) {
       outcomes[i].path = paths[i];
-      outcomes[i].file = LumImageFile::imageFileWithURL(paths[i], &outcomes[i].error);
+      outcomes[i].dates = readDates(paths[i], &outcomes[i].error);
     }
   };
   const unsigned workers = std::max(1u, std::min<unsigned>(std::thread::hardware_concurrency(),
@@ -55,18 +73,18 @@ nlohmann::ordered_json textOrNull(const std::optional<std::string>& text) {
 nlohmann::ordered_json jsonFor(const Outcome& o) {
   nlohmann::ordered_json j;
   j["path"] = o.path.string();
-  if (!o.file) {
+  if (!o.dates) {
     j["error"] = {{"domain", o.error.domain}, {"code", o.error.code}};
     return j;
   }
-  const LumImageFile& f = *o.file;
-  j["DateTimeOriginal"] = textOrNull(f.originalDateTimeOriginalString());
-  j["DateTimeDigitized"] = textOrNull(f.originalDateTimeDigitizedString());
-  j["DateTime"] = textOrNull(f.originalDateTimeString());
-  j["SubSecTimeOriginal"] = textOrNull(f.originalSubSecDateTimeOriginalString());
-  j["SubSecTimeDigitized"] = textOrNull(f.originalSubSecDateTimeDigitizedString());
-  j["SubSecTime"] = textOrNull(f.originalSubSecDateTimeString());
-  j["editable"] = f.isEdit();
+  const Dates& f = *o.dates;
+  j["DateTimeOriginal"] = textOrNull(f.original);
+  j["DateTimeDigitized"] = textOrNull(f.digitized);
+  j["DateTime"] = textOrNull(f.edited);
+  j["SubSecTimeOriginal"] = textOrNull(f.subSecOriginal);
+  j["SubSecTimeDigitized"] = textOrNull(f.subSecDigitized);
+  j["SubSecTime"] = textOrNull(f.subSecEdited);
+  j["editable"] = f.editable;
   return j;
 }
 
@@ -81,24 +99,23 @@ QString dateColumn(const std::optional<std::string>& date, const std::optional<s
 void printPlain(const std::vector<Outcome>& outcomes) {
   qsizetype pathWidth = 0;
   for (const Outcome& o : outcomes)
-    if (o.file) pathWidth = std::max(pathWidth, QString::fromStdString(o.path.string()).size());
+    if (o.dates) pathWidth = std::max(pathWidth, QString::fromStdString(o.path.string()).size());
   QTextStream out(stdout);
   for (const Outcome& o : outcomes) {
-    if (!o.file) continue;
-    const LumImageFile& f = *o.file;
+    if (!o.dates) continue;
+    const Dates& f = *o.dates;
     out << QString::fromStdString(o.path.string()).leftJustified(pathWidth) << "  "
-        << dateColumn(f.originalDateTimeOriginalString(), f.originalSubSecDateTimeOriginalString()).leftJustified(23)
-        << "  "
-        << dateColumn(f.originalDateTimeDigitizedString(), f.originalSubSecDateTimeDigitizedString()).leftJustified(23)
-        << "  " << dateColumn(f.originalDateTimeString(), f.originalSubSecDateTimeString()).leftJustified(23) << "  "
-        << (f.isEdit() ? "editable" : "not editable") << '\n';
+        << dateColumn(f.original, f.subSecOriginal).leftJustified(23) << "  "
+        << dateColumn(f.digitized, f.subSecDigitized).leftJustified(23) << "  "
+        << dateColumn(f.edited, f.subSecEdited).leftJustified(23) << "  "
+        << (f.editable ? "editable" : "not editable") << '\n';
   }
 }
 
 void reportFailures(const std::vector<Outcome>& outcomes) {
   QTextStream err(stderr);
   for (const Outcome& o : outcomes) {
-    if (o.file) continue;
+    if (o.dates) continue;
     err << "lumidate-cli: " << QString::fromStdString(o.path.string()) << ": cannot open ("
         << QString::fromStdString(o.error.domain) << ' ' << o.error.code;
     if (!o.error.reason.empty()) err << ", " << QString::fromStdString(o.error.reason);
@@ -147,7 +164,7 @@ int runDates(const QStringList& args) {
     printPlain(outcomes);
   }
   reportFailures(outcomes);
-  const bool allOpened = std::all_of(outcomes.begin(), outcomes.end(), [](const Outcome& o) { return o.file != nullptr; });
+  const bool allOpened = std::all_of(outcomes.begin(), outcomes.end(), [](const Outcome& o) { return o.dates.has_value(); });
   return allOpened ? 0 : 1;
 }
 
