@@ -43,72 +43,49 @@ class TextTest : public testing::Test {
   OrbEntryCatalogueHooks saved_;
 };
 
-TEST_F(TextTest, ASCIIStringInlineOrOutOfLine) {
-  OrbIFDEntry e = entry(kTIFFIFDID, 0x0131);
-  e.setASCIIString("abc");
-  EXPECT_EQ(e.type(), 2);
-  EXPECT_EQ(e.dataCount(), 4u);
-  EXPECT_EQ(vec(e.dataPtr()), (Bytes{'a', 'b', 'c', 0}));
-  EXPECT_FALSE(e.hasValue());
-
-  OrbIFDEntry date = entry(kTIFFIFDID, 0x0132);
-  date.setASCIIString("2024:01:02 03:04:05");
-  EXPECT_EQ(date.dataCount(), 20u);
-  EXPECT_EQ(date.data(), 0u);
-  ASSERT_EQ(date.value().size(), 20u);
-  EXPECT_EQ(date.value()[19], 0);
-  EXPECT_EQ(date.stringData(), "2024:01:02 03:04:05");
-}
-
-TEST_F(TextTest, ASCIIStringEmptyOrNotASCIIClearsTheValue) {
-  for (const char* text : {"", "caf\xC3\xA9"}) {
-    OrbIFDEntry e = entry(kTIFFIFDID, 0x010E);
-    e.setASCIIString("a longer description");
-    e.setASCIIString(text);
-    EXPECT_EQ(e.type(), 2);
-    EXPECT_EQ(e.dataCount(), 0u);
-    EXPECT_FALSE(e.hasValue());
-  }
-}
-
-TEST_F(TextTest, ShortTextLeavesAnOlderCopyAlone) {
-  OrbIFDEntry e = entry(kTIFFIFDID, 0x010E);
-  e.setASCIIString("a longer description");
-  e.setASCIIString("ab");
-  EXPECT_TRUE(e.hasValue());  // deliberately kept
-  EXPECT_EQ(e.dataCount(), 3u);
-  EXPECT_EQ(e.stringData(), "ab");  // the inline field is what counts
-}
-
-TEST_F(TextTest, UTF8String) {
-  OrbIFDEntry e = entry(kTIFFIFDID, 0x010E);
-  e.setUTF8String("caf\xC3\xA9");
-  EXPECT_EQ(e.type(), 129);
-  EXPECT_EQ(e.dataCount(), 6u);
-  EXPECT_EQ(vec(e.value()), (Bytes{'c', 'a', 'f', 0xC3, 0xA9, 0}));
-  EXPECT_EQ(e.stringData(), "caf\xC3\xA9");
-  e.setUTF8String("\xFF\xFE");  // not UTF-8: nothing to store
-  EXPECT_EQ(e.dataCount(), 0u);
-}
-
-TEST_F(TextTest, EncodingForTypeAndVersion) {
+// The ASCII and UTF-8 setters: four bytes stay inline, longer texts get a
+// copy; texts the type cannot hold clear the count. A shorter text leaves an
+// older copy alone on purpose: the inline field is what counts.
+TEST_F(TextTest, ASCIIAndUTF8Setters) {
   struct Case {
-    std::uint32_t ifdID;
-    std::uint32_t type;
-    std::uint32_t version;
-    std::uint32_t encoding;
+    const char* name;
+    bool utf8;
+    const char* before;
+    std::string text;
+    std::uint32_t count;
+    bool hasValue;
+    std::optional<Bytes> stored;  // the value, or the inline field without one
   };
   const Case cases[] = {
-      {kExifIFDID, 2, 230, kOrbEncodingUTF16},   {kExifIFDID, 2, 300, kOrbEncodingUTF8},
-      {kExifIFDID, 3, 230, kOrbEncodingShiftJIS}, {kExifIFDID, 3, 300, kOrbEncodingISO2022JP},
-      {kExifIFDID, 1, 230, kOrbEncodingASCII},   {kExifIFDID, 4, 230, kOrbEncodingNone},
-      {kGPSIFDID, 2, 2400, kOrbEncodingUTF8},    {kInteroperabilityIFDID, 2, 0, kOrbEncodingUTF8},
+      {"inline", false, nullptr, "abc", 4, false, Bytes{'a', 'b', 'c', 0}},
+      {"date out of line", false, nullptr, "2024:01:02 03:04:05", 20, true,
+       Bytes{'2', '0', '2', '4', ':', '0', '1', ':', '0', '2', ' ', '0', '3', ':', '0', '4', ':', '0', '5', 0}},
+      {"empty", false, "a longer description", "", 0, false, {}},
+      {"not ASCII", false, "a longer description", "caf\xC3\xA9", 0, false, {}},
+      {"short after long", false, "a longer description", "ab", 3, true, {}},
+      {"UTF-8", true, nullptr, "caf\xC3\xA9", 6, true, Bytes{'c', 'a', 'f', 0xC3, 0xA9, 0}},
+      {"not UTF-8", true, nullptr, "\xFF\xFE", 0, false, {}},
   };
   for (const auto& c : cases) {
-    const OrbIFDEntry e = entry(c.ifdID, 37510);
-    // The IFD id argument is not used: the entry's own decides.
-    EXPECT_EQ(e.stringEncodingWithType(c.type, c.version, 0x99990000), c.encoding)
-        << std::hex << c.ifdID << std::dec << " type " << c.type << " v" << c.version;
+    SCOPED_TRACE(c.name);
+    OrbIFDEntry e = entry(kTIFFIFDID, 0x010E);
+    if (c.before) e.setASCIIString(c.before);
+    if (c.utf8)
+      e.setUTF8String(c.text);
+    else
+      e.setASCIIString(c.text);
+    EXPECT_EQ(e.type(), c.utf8 ? 129 : 2);
+    EXPECT_EQ(e.dataCount(), c.count);
+    EXPECT_EQ(e.hasValue(), c.hasValue);
+    if (c.count > 4) {
+      EXPECT_EQ(e.data(), 0u);  // a new copy has no offset yet
+    }
+    if (c.stored) {
+      EXPECT_EQ(vec(c.hasValue ? e.value() : e.dataPtr()), *c.stored);
+    }
+    if (c.count) {
+      EXPECT_EQ(e.stringData(), c.text);
+    }
   }
 }
 
@@ -132,6 +109,7 @@ TEST_F(TextTest, CharacterCodeForms) {
       {"no version in Exif counts as 2.32", kExifIFDID, 37510, 0, "Hi", 2, kUNICODE + Bytes{0, 'H', 0, 'i'}},
       {"GPS without version counts as 2.3", kGPSIFDID, 27, 0, "Hi", 2, kUNICODE + Bytes{0, 'H', 0, 'i'}},
       {"GPS 2.4 takes UTF-8", kGPSIFDID, 28, 2400, "Hi", 2, kUNICODE + Bytes{'H', 'i'}},
+      {"Interoperability takes UTF-8", kInteroperabilityIFDID, 1, 0, "Hi", 2, kUNICODE + Bytes{'H', 'i'}},
       {"ASCII that cannot be: UNICODE", kExifIFDID, 37510, 230, kNihon, 1, kUNICODE + Bytes{0x65, 0xE5, 0x67, 0x2C}},
       {"ASCII that cannot be, 3.0: UTF-8", kExifIFDID, 37510, 300, "\xC3\xA9", 1, kUNICODE + Bytes{0xC3, 0xA9}},
       {"Shift JIS that cannot be: UNICODE", kExifIFDID, 37510, 230, "\xF0\x9F\x98\x80", 3,

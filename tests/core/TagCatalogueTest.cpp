@@ -22,7 +22,6 @@ TEST(TagCatalogue, TitlesTypesAndVersions) {
       {0x0000, kTIFFIFDID, 0, "Byte Order", 0, 0},
       {0x0214, kTIFFIFDID, 0, "Reference Black White", kOrbTypeLong, 0},  // LONG on purpose
       {0x800D, kTIFFIFDID, 0, "Image ID", 0, 0},                          // titled, untyped
-      {0xA401, kExifIFDID, 0, "Custom Rendered", kOrbTypeShort, 220},
       {0xA500, kExifIFDID, 0, "Gamma", kOrbTypeRational, 221},
       {27, kGPSIFDID, 0, "GPS Processing Method", kOrbTypeUndefined, 2200},
       {31, kGPSIFDID, 0, "GPS HPositioning Error", kOrbTypeRational, 2300},
