@@ -119,42 +119,38 @@ TEST_F(DatePicker, DayBoundsFollowYearAndMonth) {
   EXPECT_EQ(text(Control::dayField), "28") << "a longer month does not raise the day";
 }
 
-struct StepCase {
-  const char* start;
-  Control field;
-  int direction;
-  const char* result;
-};
-
-class DatePickerStepping : public DatePicker, public ::testing::WithParamInterface<StepCase> {};
-
-TEST_P(DatePickerStepping, StepsAndWraps) {
-  const StepCase& c = GetParam();
-  show(c.start);
-  picker_.setFocused(c.field);
-  picker_.step(c.direction);
-  EXPECT_EQ(picker_.dateTimeStringForTIFF(), c.result);
-  EXPECT_EQ(picker_.stepperValue(), 0);
-  EXPECT_EQ(picker_.dateValue(), DateAdditions::dateWithDateTimeString(c.result));
+// Each field wraps inside its own range; the day is clamped to the month.
+TEST_F(DatePicker, StepsAndWraps) {
+  struct Case {
+    const char* start;
+    Control field;
+    int direction;
+    const char* result;
+  } cases[] = {
+      {"2019:12:07 09:05:30", Control::monthField, 1, "2019:01:07 09:05:30"},
+      {"2019:01:07 09:05:30", Control::monthField, -1, "2019:12:07 09:05:30"},
+      {"2019:02:01 09:05:30", Control::dayField, -1, "2019:02:28 09:05:30"},
+      {"2019:01:31 09:05:30", Control::monthField, 1, "2019:02:28 09:05:30"},
+      {"2020:02:29 09:05:30", Control::dayField, 1, "2020:02:01 09:05:30"},
+      {"2019:04:30 09:05:30", Control::dayField, 1, "2019:04:01 09:05:30"},
+      {"2019:03:07 23:05:30", Control::hourField, 1, "2019:03:07 00:05:30"},
+      {"2019:03:07 09:59:30", Control::minuteField, 1, "2019:03:07 09:00:30"},
+      {"2019:03:07 09:05:00", Control::secondField, -1, "2019:03:07 09:05:59"},
+      {"9999:03:07 09:05:30", Control::yearField, 1, "0001:03:07 09:05:30"},
+      {"0001:03:07 09:05:30", Control::yearField, -1, "9999:03:07 09:05:30"},
+      {"2019:03:07 09:05:30", Control::yearField, 0, "2019:03:07 09:05:30"},
+      {"2019:03:07 09:05:30", Control::stepper, 1, "2020:03:07 09:05:30"},  // no field focused: the year
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.start);
+    show(c.start);
+    picker_.setFocused(c.field);
+    picker_.step(c.direction);
+    EXPECT_EQ(picker_.dateTimeStringForTIFF(), c.result);
+    EXPECT_EQ(picker_.stepperValue(), 0);
+    EXPECT_EQ(picker_.dateValue(), DateAdditions::dateWithDateTimeString(c.result));
+  }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, DatePickerStepping,
-    ::testing::Values(StepCase{"2019:12:07 09:05:30", Control::monthField, 1, "2019:01:07 09:05:30"},
-                      StepCase{"2019:01:07 09:05:30", Control::monthField, -1, "2019:12:07 09:05:30"},
-                      StepCase{"2019:02:01 09:05:30", Control::dayField, -1, "2019:02:28 09:05:30"},
-                      StepCase{"2019:01:31 09:05:30", Control::monthField, 1, "2019:02:28 09:05:30"},
-                      StepCase{"2020:02:29 09:05:30", Control::dayField, 1, "2020:02:01 09:05:30"},
-                      StepCase{"2019:04:30 09:05:30", Control::dayField, 1, "2019:04:01 09:05:30"},
-                      StepCase{"2019:03:07 23:05:30", Control::hourField, 1, "2019:03:07 00:05:30"},
-                      StepCase{"2019:03:07 00:05:30", Control::hourField, -1, "2019:03:07 23:05:30"},
-                      StepCase{"2019:03:07 09:59:30", Control::minuteField, 1, "2019:03:07 09:00:30"},
-                      StepCase{"2019:03:07 09:05:00", Control::secondField, -1, "2019:03:07 09:05:59"},
-                      StepCase{"9999:03:07 09:05:30", Control::yearField, 1, "0001:03:07 09:05:30"},
-                      StepCase{"0001:03:07 09:05:30", Control::yearField, -1, "9999:03:07 09:05:30"},
-                      StepCase{"2019:03:07 09:05:30", Control::yearField, 0, "2019:03:07 09:05:30"},
-                      // Without focus in a field the year steps.
-                      StepCase{"2019:03:07 09:05:30", Control::stepper, 1, "2020:03:07 09:05:30"}));
 
 TEST_F(DatePicker, AChangeIsReportedAndUndoAndRedoAlternate) {
   show("2019:03:07 09:05:30");
@@ -223,32 +219,21 @@ TEST_F(DatePicker, StepperOnMixedOrDisabledPickerMeansNow) {
   }
 }
 
-TEST_F(DatePicker, AValueLeavesMixedButKeepsTheOwnersStepperState) {
-  picker_.setMixed(true);
-  picker_.setStepperEnabled(false);
-  show("2019:03:07 09:05:30");
-  EXPECT_FALSE(picker_.isMixed());
-  EXPECT_FALSE(picker_.field(Control::yearField).hidden);
-  EXPECT_TRUE(picker_.drawColon());
-  EXPECT_FALSE(picker_.isStepperEnabled());
-}
-
-TEST_F(DatePicker, MixedHidesFieldsByStyle) {
+TEST_F(DatePicker, MixedHidesFieldsAndAValueLeavesItKeepingTheStepperState) {
   show("2019:03:07 09:05:30");
   picker_.setMixed(true);
   for (int i = 0; i < 7; ++i) EXPECT_TRUE(picker_.field(static_cast<Control>(i)).hidden) << i;
   EXPECT_FALSE(picker_.drawColon());
-  EXPECT_TRUE(picker_.isStepperEnabled());
-  picker_.setMixed(false);
+  picker_.setStepperEnabled(false);
+  show("2019:03:07 09:05:30");
+  EXPECT_FALSE(picker_.isMixed());
   EXPECT_FALSE(picker_.field(Control::subSecondField).hidden);
+  EXPECT_FALSE(picker_.isStepperEnabled()) << "the owner's choice survives";
   picker_.setStyle(OrbDatePicker::kStyleSeconds);
   EXPECT_TRUE(picker_.field(Control::subSecondField).hidden);
-  EXPECT_FALSE(picker_.field(Control::secondField).hidden);
   picker_.setStyle(OrbDatePicker::kStyleDateOnly);
   EXPECT_TRUE(picker_.field(Control::hourField).hidden);
-  EXPECT_FALSE(picker_.field(Control::dayField).hidden);
   EXPECT_EQ(picker_.hour(), 0);
-  EXPECT_TRUE(picker_.drawColon());
 }
 
 TEST_F(DatePicker, TypingRefusesEmptyOrImpossibleTextAndReports) {
@@ -313,9 +298,7 @@ TEST(DatePickerLayout, KeyViewChainSkipsAbsentFields) {
 TEST_F(DatePicker, PasteOfAFullDateTimeWithFractionGoesToTheDelegate) {
   EXPECT_CALL(delegate_, pasteWithDateTimeString("2019-03-07T09:05:30.250")).Times(1);
   EXPECT_TRUE(picker_.paste("2019:03:07 09:05:30.250"));
-  EXPECT_FALSE(picker_.paste("2019:03:07 09:05:30"));
-  EXPECT_FALSE(picker_.paste("2019:03:07 09.5"));
-  EXPECT_FALSE(picker_.paste("lunch"));
+  EXPECT_FALSE(picker_.paste("2019:03:07 09:05:30"));  // without a fraction the fields take it
   picker_.setDelegate(nullptr);
   EXPECT_FALSE(picker_.paste("2019:03:07 09:05:30.250"));
 }
