@@ -49,6 +49,7 @@ struct FileState {
 };
 
 TEST(KillDuringSave, EveryFileIsAsBeforeOrAsIntendedAfterEachKill) {
+  ASSERT_TRUE(fs::exists(LUMIDATE_CLI_PATH)) << "lumidate-cli is not built at " << LUMIDATE_CLI_PATH;
   const int fileCount = reltest::countFromEnvironment("LUMIDATE_KILL_FILES", 200);
   const int kills = reltest::countFromEnvironment("LUMIDATE_KILLS", 5);
   reltest::ScratchFolder folder;

@@ -59,6 +59,7 @@ std::pair<int, long> shiftWithTool(const fs::path& folder) {
 }
 
 TEST(Load, ManyFilesStayBoundedLeakNoDescriptorAndEndAsIntended) {
+  ASSERT_TRUE(fs::exists(LUMIDATE_CLI_PATH)) << "lumidate-cli is not built at " << LUMIDATE_CLI_PATH;
   const int count = reltest::countFromEnvironment("LUMIDATE_LOAD_FILES", 500);
   reltest::ScratchFolder folder;
   const auto paths = reltest::writeSmallPhotos(folder.path(), count);
