@@ -44,12 +44,9 @@ TEST(InspectorRows, JpegWithOnlyJFIFShowsOnlyTheJFIFGroup) {
             (std::vector<std::string>{"# JFIF", "JFIF|JFIF Version|1.2", "JFIF|Density Unit|dpi",
                                       "JFIF|X Density|300", "JFIF|Y Density|300"}));
   EXPECT_TRUE(source.isHeadingRow(0));
-  EXPECT_FALSE(source.isHeadingRow(1));
-  EXPECT_EQ(source.objectValue("TagName", 0), "JFIF");
-  EXPECT_EQ(source.objectValue("Value", 0), "");
-  EXPECT_EQ(source.objectValue("Value", 2), "dpi");
+  EXPECT_EQ(source.objectValue("Value", 0), "");   // headings have no value
   EXPECT_EQ(source.objectValue("Other", 2), "");
-  EXPECT_EQ(source.objectValue("Value", 99), "");
+  EXPECT_EQ(source.objectValue("Value", 99), "");  // past the last row
 }
 
 TEST(InspectorRows, BigEndianTiffStartsWithItsByteOrderAndKeepsDisplayOrder) {
@@ -68,11 +65,7 @@ TEST(InspectorRows, BigEndianTiffStartsWithItsByteOrderAndKeepsDisplayOrder) {
                                                    "TIFF|Model|Model Z", "TIFF|Orientation|6 Right-Top",
                                                    "TIFF|Image Width|640"}));
   ASSERT_TRUE(rows[1].entry);
-  EXPECT_EQ(rows[1].entry->ifdTag(), 0);
   EXPECT_TRUE(rows[1].entry->isBigEndian());
-  EXPECT_EQ(LumInfoDataSource::byteOrderEntry(kOrbLittleEndian).stringData(), "Little Endian");
-  EXPECT_EQ(LumInfoDataSource::byteOrderEntry(kOrbLittleEndian).dataCount(), 14u);
-  EXPECT_EQ(&LumInfoDataSource::byteOrderEntry(kOrbBigEndian), &LumInfoDataSource::byteOrderEntry(kOrbBigEndian));
 }
 
 TEST(InspectorRows, GroupsWithoutListedTagsHaveNoHeading) {
@@ -90,7 +83,7 @@ TEST(InspectorRows, GroupsWithoutListedTagsHaveNoHeading) {
             (std::vector<std::string>{"# TIFF", "TIFF|Byte Order|Little Endian", "TIFF|Make|Maker",
                                       "# Interoperability", "Interoperability|Interoperability Index|R98"}));
   EXPECT_TRUE(LumInfoDataSource::rowsFor(nullptr, nullptr, {}).empty());
-  const OrbTiff empty;
+  const OrbTiff empty;  // a byte order alone makes no group
   EXPECT_TRUE(LumInfoDataSource::rowsFor(&empty, nullptr, {}).empty());
 }
 
@@ -143,7 +136,6 @@ TEST(InspectorRows, FollowsTheShownFile) {
   LumInfoDataSource source;
   EXPECT_TRUE(source.imageFileDidChange(a.file.get()));
   EXPECT_FALSE(source.imageFileDidChange(a.file.get()));  // already shown
-  EXPECT_EQ(source.objectValue("Value", 1), "1.1");
   EXPECT_FALSE(source.imageFileDidSave(b.file.get()));     // not the shown file
   EXPECT_TRUE(source.imageFileDidSave(a.file.get()));
   EXPECT_TRUE(source.imageFileDidChange(b.file.get()));

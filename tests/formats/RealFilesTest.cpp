@@ -6,11 +6,8 @@
 #include <set>
 
 #include "core/OrbTiff.h"
-#include "formats/LumImageFile.h"
+#include "formats/ImageFileTestSupport.h"
 #include "support/TestData.h"
-
-#include <fstream>
-#include <unistd.h>
 
 namespace {
 
@@ -86,13 +83,9 @@ TEST(RealFiles, EveryFileAgreesWithItsExpectedRecord) {
 
 TEST(RealFiles, ThumbnailsFitTheBox) {
   LUMTEST_REQUIRE_REAL_DATA();
-  struct Owner : LumImageFileOwner {
-    std::filesystem::path path;
-    std::optional<std::filesystem::path> fileURL() const override { return path; }
-  };
   for (const std::string& name : lumtest::realFileNames()) {
     SCOPED_TRACE(name);
-    Owner owner;
+    lumtest::PathOwner owner;
     owner.path = *lumtest::realDataDir() / name;
     const auto file = LumImageFile::imageFileWithURL(owner.path, nullptr);
     if (!file) continue;
@@ -111,7 +104,6 @@ TEST(RealFiles, ThumbnailsFitTheBox) {
 // sanitizers this catches any unbounded read.
 TEST(RealFiles, CutFilesOpenOrFailCleanly) {
   LUMTEST_REQUIRE_REAL_DATA();
-  const auto path = std::filesystem::temp_directory_path() / ("lum-cut-" + std::to_string(::getpid()) + ".jpg");
   for (const std::string& name : lumtest::realFileNames()) {
     SCOPED_TRACE(name);
     const auto bytes = lumtest::readFile(*lumtest::realDataDir() / name);
@@ -119,10 +111,7 @@ TEST(RealFiles, CutFilesOpenOrFailCleanly) {
     for (std::size_t n = 5; n < std::min<std::size_t>(bytes.size(), 1000); n += 53) cuts.push_back(n);
     for (const std::size_t n : cuts) {
       if (n > bytes.size()) continue;
-      std::ofstream(path, std::ios::binary | std::ios::trunc)
-          .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(n));
-      LumError error;
-      const auto file = LumImageFile::imageFileWithURL(path, &error);
+      const auto [file, error] = lumtest::openBytes(lumtest::Bytes(bytes.begin(), bytes.begin() + std::ptrdiff_t(n)));
       if (!file) {
         EXPECT_TRUE(error.code == -1 || error.code == -2) << n;
         continue;
@@ -137,7 +126,6 @@ TEST(RealFiles, CutFilesOpenOrFailCleanly) {
       }
     }
   }
-  std::filesystem::remove(path);
 }
 
 }  // namespace

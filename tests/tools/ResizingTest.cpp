@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 
 namespace {
@@ -52,6 +53,7 @@ TEST(ResizingFormat, ComponentCountAndAlphaAreNormalised) {
     AlphaInfo info;
     int components;
     std::uint32_t bitmapInfo;
+    int bpc = 8, rowBytes = 0;  // 0: rows exactly as long as the pixels
   };
   const Case cases[] = {
       {1, AlphaInfo::None, 2, 1},             // grey gains a padding alpha, premultiplied last
@@ -63,24 +65,19 @@ TEST(ResizingFormat, ComponentCountAndAlphaAreNormalised) {
       {4, AlphaInfo::First, 4, 2},
       {4, AlphaInfo::PremultipliedFirst, 4, 1},  // value 2 has a low bit set: last
       {4, AlphaInfo::None, 4, 0},             // CMYK stays without alpha
+      {3, AlphaInfo::None, 4, 1, 16, 64},     // padded rows: 64 / 2 / 10 truncates to 3 components
   };
   for (const auto& c : cases) {
-    auto b = solid(10, 2, c.comps, c.info, std::vector<std::uint8_t>(static_cast<std::size_t>(c.comps), 0));
+    SCOPED_TRACE(std::to_string(c.comps) + "/" + std::to_string(static_cast<int>(c.info)) + "/" + std::to_string(c.bpc));
+    auto b = solid(10, 2, c.comps, c.info, std::vector<std::uint8_t>(static_cast<std::size_t>(c.comps * c.bpc / 8), 0),
+                   ColorSpace::RGB, c.bpc);
+    if (c.rowBytes) b->bytesPerRow = c.rowBytes;
     const auto f = Resizing::pixelFormat(*b, 7);
     ASSERT_TRUE(f);
-    EXPECT_EQ(f->components, c.components) << c.comps << "/" << static_cast<int>(c.info);
-    EXPECT_EQ(f->bitmapInfo, c.bitmapInfo) << c.comps << "/" << static_cast<int>(c.info);
-    EXPECT_EQ(f->bytesPerRow, c.components * 7);
+    EXPECT_EQ(f->components, c.components);
+    EXPECT_EQ(f->bitmapInfo, c.bitmapInfo);
+    EXPECT_EQ(f->bytesPerRow, c.components * c.bpc / 8 * 7);
   }
-}
-
-TEST(ResizingFormat, ComponentsComeFromRowLengthTruncated) {
-  auto b = solid(10, 1, 3, AlphaInfo::None, {0, 0, 0}, ColorSpace::RGB, 16);
-  b->bytesPerRow = 64;  // padded rows: 64 / 2 / 10 = 3 components
-  const auto f = Resizing::pixelFormat(*b, 5);
-  ASSERT_TRUE(f);
-  EXPECT_EQ(f->components, 4);
-  EXPECT_EQ(f->bytesPerRow, 4 * 2 * 5);
 }
 
 TEST(ResizingPixels, SameBitmapWhenItFits) {
@@ -89,54 +86,44 @@ TEST(ResizingPixels, SameBitmapWhenItFits) {
   EXPECT_EQ(Resizing::resizedBitmapFromBitmap(nullptr, false, 150, 150), nullptr);
 }
 
-TEST(ResizingPixels, RgbBecomesOpaqueRgba) {
-  const auto out = Resizing::resizedBitmap(solid(40, 20, 3, AlphaInfo::None, {10, 200, 30}), 10, 10, false);
-  ASSERT_TRUE(out);
-  EXPECT_EQ(out->width, 10);
-  EXPECT_EQ(out->height, 5);
-  EXPECT_EQ(out->bytesPerRow, 40);
-  ASSERT_EQ(out->pixels.size(), 200u);
-  for (std::size_t i = 0; i < out->pixels.size(); i += 4)
-    ASSERT_EQ(std::vector<std::uint8_t>(out->pixels.begin() + i, out->pixels.begin() + i + 4),
-              (std::vector<std::uint8_t>{10, 200, 30, 255}));
-}
-
-TEST(ResizingPixels, StraightAlphaFirstIsPremultipliedAndStaysFirst) {
-  const auto out = Resizing::resizedBitmap(solid(4, 4, 4, AlphaInfo::First, {128, 255, 0, 100}), 2, 2, false);
-  ASSERT_TRUE(out);
-  EXPECT_EQ(out->bitmapInfo, 2u);
-  EXPECT_EQ(std::vector<std::uint8_t>(out->pixels.begin(), out->pixels.begin() + 4),
-            (std::vector<std::uint8_t>{128, 128, 0, 50}));
-}
-
-TEST(ResizingPixels, SkipFirstMovesPaddingToAnOpaqueLastAlpha) {
-  const auto out = Resizing::resizedBitmap(solid(4, 2, 4, AlphaInfo::NoneSkipFirst, {7, 1, 2, 3}), 2, 2, false);
-  ASSERT_TRUE(out);
-  EXPECT_EQ(std::vector<std::uint8_t>(out->pixels.begin(), out->pixels.begin() + 4),
-            (std::vector<std::uint8_t>{1, 2, 3, 255}));
-}
-
-TEST(ResizingPixels, AveragesTheCoveredArea) {
-  // Two columns, black and white, shrunk to one pixel: mid grey.
-  auto b = solid(2, 1, 1, AlphaInfo::None, {0}, ColorSpace::Gray);
-  b->pixels[1] = 255;
-  const auto out = Resizing::resizedBitmap(b, 1, 1, false);
-  ASSERT_TRUE(out);
-  ASSERT_EQ(out->pixels.size(), 2u);
-  EXPECT_EQ(out->pixels[0], 128);
-  EXPECT_EQ(out->pixels[1], 255);
-}
-
-TEST(ResizingPixels, SixteenBitComponentsKeepTheirDepth) {
-  const std::uint16_t v = 40000;
-  std::vector<std::uint8_t> px(2);
-  std::memcpy(px.data(), &v, 2);
-  const auto out = Resizing::resizedBitmap(solid(8, 8, 1, AlphaInfo::None, px, ColorSpace::Gray, 16), 4, 4, false);
-  ASSERT_TRUE(out);
-  EXPECT_EQ(out->bitsPerComponent, 16);
-  std::uint16_t got = 0;
-  std::memcpy(&got, out->pixels.data(), 2);
-  EXPECT_EQ(got, 40000);
+TEST(ResizingPixels, FirstPixelAfterShrinking) {
+  struct Case {
+    const char* what;
+    std::shared_ptr<Bitmap> in;
+    int box, width, height;
+    std::uint32_t bitmapInfo;
+    std::vector<std::uint8_t> firstPixel;
+  };
+  auto greyPair = solid(2, 1, 1, AlphaInfo::None, {0}, ColorSpace::Gray);
+  greyPair->pixels[1] = 255;
+  const std::uint16_t deep = 40000;
+  std::vector<std::uint8_t> deepPixel(2);
+  std::memcpy(deepPixel.data(), &deep, 2);
+  const Case cases[] = {
+      {"RGB becomes opaque RGBA", solid(40, 20, 3, AlphaInfo::None, {10, 200, 30}), 10, 10, 5, 1, {10, 200, 30, 255}},
+      {"straight alpha first is premultiplied and stays first", solid(4, 4, 4, AlphaInfo::First, {128, 255, 0, 100}), 2,
+       2, 2, 2, {128, 128, 0, 50}},
+      {"skip-first padding becomes an opaque last alpha", solid(4, 2, 4, AlphaInfo::NoneSkipFirst, {7, 1, 2, 3}), 2, 2,
+       1, 1, {1, 2, 3, 255}},
+      {"black and white columns average to mid grey", greyPair, 1, 1, 1, 1, {128, 255}},
+      {"16-bit components keep their depth", solid(8, 8, 1, AlphaInfo::None, deepPixel, ColorSpace::Gray, 16), 4, 4, 4,
+       1, {deepPixel[0], deepPixel[1]}},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.what);
+    const auto out = Resizing::resizedBitmap(c.in, c.box, c.box, false);
+    ASSERT_TRUE(out);
+    EXPECT_EQ(out->width, c.width);
+    EXPECT_EQ(out->height, c.height);
+    EXPECT_EQ(out->bitmapInfo, c.bitmapInfo);
+    EXPECT_EQ(out->bitsPerComponent, c.in->bitsPerComponent);
+    const auto pixelBytes = static_cast<std::size_t>(out->bytesPerRow / out->width);
+    ASSERT_EQ(out->pixels.size(), pixelBytes * static_cast<std::size_t>(out->width * out->height));
+    // Every output pixel of a solid input equals the first.
+    for (std::size_t i = 0; i < out->pixels.size(); i += pixelBytes)
+      ASSERT_TRUE(std::equal(c.firstPixel.begin(), c.firstPixel.end(), out->pixels.begin() + static_cast<std::ptrdiff_t>(i)))
+          << "pixel at byte " << i;
+  }
 }
 
 TEST(ResizingPixels, UnsupportedFormatsGiveNone) {
