@@ -2,46 +2,26 @@
 // their expected records, folder expansion and order, exit statuses.
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <string>
-#include <sys/wait.h>
 
+#include "CliRun.h"
 #include "support/JpegBuilder.h"
 #include "support/TestData.h"
 
 namespace fs = std::filesystem;
 using nlohmann::json;
+using clitest::quoted;
 
 namespace {
 
-struct CliRun {
-  int status = -1;
-  std::string out;
-};
-
-// Runs the tool with the arguments (each quoted), keeping stdout only.
-CliRun runCli(const std::vector<std::string>& args) {
-  std::string command = "'" LUMIDATE_CLI "' dates";
-  for (const std::string& a : args) command += " '" + a + "'";
-  command += " 2>/dev/null";
-  CliRun run;
-  FILE* pipe = popen(command.c_str(), "r");
-  if (!pipe) return run;
-  std::array<char, 4096> buffer{};
-  for (std::size_t n; (n = fread(buffer.data(), 1, buffer.size(), pipe)) > 0;) run.out.append(buffer.data(), n);
-  const int raw = pclose(pipe);
-  run.status = WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
-  return run;
-}
+clitest::CliRun runDates(const std::string& arguments) { return clitest::runCli("dates " + arguments); }
 
 TEST(CmdDates, JsonOverTheRealFilesMatchesTheExpectedRecords) {
   LUMTEST_REQUIRE_REAL_DATA();
   const fs::path dir = *lumtest::realDataDir();
   // The folder twice and one of its files again: each file is listed once.
-  const CliRun run = runCli({"--json", dir.string(), dir.string(), (dir / "canon-ixus-2001.jpg").string()});
+  const auto run = runDates("--json " + quoted(dir) + " " + quoted(dir) + " " + quoted(dir / "canon-ixus-2001.jpg"));
   EXPECT_EQ(run.status, 1);  // some real files do not open
   const json array = json::parse(run.out);
   ASSERT_TRUE(array.is_array());
@@ -78,29 +58,24 @@ class CmdDatesFolder : public ::testing::Test {
   }
   void TearDown() override { fs::remove_all(root_); }
   void write(const char* name, const lumtest::Bytes& bytes) {
-    std::ofstream(root_ / name, std::ios::binary)
-        .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    std::ofstream(root_ / name, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()), std::ssize(bytes));
   }
   fs::path root_;
 };
 
 TEST_F(CmdDatesFolder, ListsPhotosInFileManagerOrder) {
-  const CliRun run = runCli({"--json", root_.string()});
+  const auto run = runDates("--json " + quoted(root_));
   EXPECT_EQ(run.status, 0);
   const json array = json::parse(run.out);
   ASSERT_EQ(array.size(), 3u);
-  EXPECT_EQ(array[0].at("path"), (root_ / "img9.JPG").string());
-  EXPECT_EQ(array[1].at("path"), (root_ / "img10.jpg").string());
-  EXPECT_EQ(array[2].at("path"), (root_ / "sub/img1.jpeg").string());
+  const char* order[] = {"img9.JPG", "img10.jpg", "sub/img1.jpeg"};
+  for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(array[i].at("path"), (root_ / order[i]).string());
   EXPECT_EQ(array[0].at("editable"), false);
-  EXPECT_EQ(array[0].at("DateTimeOriginal"), nullptr);
-  EXPECT_EQ(array[1].at("DateTimeOriginal"), "2024:05:06 07:08:09");
-  EXPECT_EQ(array[1].at("SubSecTimeOriginal"), " 42");
-  EXPECT_EQ(array[1].at("editable"), true);
+  EXPECT_EQ(array[1].at("SubSecTimeOriginal"), " 42");  // blanks kept
 }
 
 TEST_F(CmdDatesFolder, PlainOutputIsOneAlignedLinePerFile) {
-  const CliRun run = runCli({root_.string()});
+  const auto run = runDates(quoted(root_));
   EXPECT_EQ(run.status, 0);
   std::vector<std::string> lines;
   for (std::size_t from = 0, to; (to = run.out.find('\n', from)) != std::string::npos; from = to + 1)
@@ -113,9 +88,9 @@ TEST_F(CmdDatesFolder, PlainOutputIsOneAlignedLinePerFile) {
 }
 
 TEST(CmdDatesUsage, StatusTwoOnUsageErrorsAndOneForUnreadablePaths) {
-  EXPECT_EQ(runCli({}).status, 2);
-  EXPECT_EQ(runCli({"--no-such-option", "x.jpg"}).status, 2);
-  const CliRun missing = runCli({"--json", "/nonexistent/lumidate.jpg"});
+  EXPECT_EQ(runDates("").status, 2);
+  EXPECT_EQ(runDates("--no-such-option x.jpg").status, 2);
+  const auto missing = runDates("--json /nonexistent/lumidate.jpg");
   EXPECT_EQ(missing.status, 1);
   EXPECT_EQ(json::parse(missing.out).at(0).at("error").at("code"), -2);
 }

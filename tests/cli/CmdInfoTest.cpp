@@ -2,35 +2,17 @@
 // shows for the real camera files with what other readers found in them.
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdio>
-#include <map>
+#include <algorithm>
 #include <regex>
-#include <string>
-#include <sys/wait.h>
+#include <tuple>
 
-#include <nlohmann/json.hpp>
-
+#include "CliRun.h"
 #include "support/TestData.h"
 
 namespace {
 
+using clitest::runCli;
 using nlohmann::json;
-
-struct CliRun {
-  int status;
-  std::string out;
-};
-
-CliRun runCli(const std::string& arguments) {
-  FILE* pipe = popen((std::string(LUMIDATE_CLI) + " " + arguments + " 2>/dev/null").c_str(), "r");
-  if (!pipe) return {-1, ""};
-  std::string out;
-  std::array<char, 4096> buffer;
-  while (std::size_t n = std::fread(buffer.data(), 1, buffer.size(), pipe)) out.append(buffer.data(), n);
-  const int status = pclose(pipe);
-  return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, out};
-}
 
 std::string realFile(const std::string& name) { return "'" + (*lumtest::realDataDir() / name).string() + "'"; }
 
@@ -66,7 +48,7 @@ TEST(CliInfo, RealFilesShowWhatOtherReadersFind) {
     const json& design = expected.at("design");
     if (design.at("tiffHeaderLocation").is_null()) continue;  // no TIFF structure: nothing to compare
     SCOPED_TRACE(name);
-    const CliRun run = runCli("info --json " + realFile(name));
+    const auto run = runCli("info --json " + realFile(name));
     ASSERT_EQ(run.status, 0);
     const json file = json::parse(run.out).at(0);
     EXPECT_EQ(trimmed(rowValue(file, "TIFF", "Make")), expected.at("Make"));
@@ -94,7 +76,7 @@ TEST(CliInfo, RealFilesShowWhatOtherReadersFind) {
 
 TEST(CliInfo, JsonListsEveryFileWithItsRowsOrItsError) {
   LUMTEST_REQUIRE_REAL_DATA();
-  const CliRun run =
+  const auto run =
       runCli("info --json " + realFile("flir-i7-jfif.jpg") + " " + realFile("broken-ifd0.tif") + " " + realFile("none.jpg"));
   EXPECT_EQ(run.status, 1);
   const json out = json::parse(run.out);
@@ -109,7 +91,7 @@ TEST(CliInfo, JsonListsEveryFileWithItsRowsOrItsError) {
                           {"error", {{"domain", "LumErrorDomain"}, {"code", -1}}}}));
   EXPECT_EQ(out[2].at("error").at("domain"), "LumErrorDomain");
 
-  const CliRun plain = runCli("info " + realFile("htc-desire-mm-gps.jpg"));
+  const auto plain = runCli("info " + realFile("htc-desire-mm-gps.jpg"));
   EXPECT_EQ(plain.status, 0);
   EXPECT_NE(plain.out.find("\n  GPS\n"), std::string::npos) << plain.out;
   EXPECT_NE(plain.out.find("Big Endian"), std::string::npos);
