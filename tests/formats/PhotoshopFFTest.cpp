@@ -15,12 +15,7 @@ namespace {
 using namespace recordtest;
 
 Bytes app13(const Bytes& blocks) {
-  const auto length = static_cast<std::uint16_t>(blocks.size() + 16);
-  Bytes out{0xFF, 0xED, static_cast<std::uint8_t>(length >> 8), static_cast<std::uint8_t>(length)};
-  const std::string id("Photoshop 3.0");
-  out.insert(out.end(), id.begin(), id.end());
-  out.push_back(0);
-  return out + blocks;
+  return Bytes{0xFF, 0xED} + be16(static_cast<std::uint32_t>(blocks.size() + 16)) + text("Photoshop 3.0") + Bytes{0} + blocks;
 }
 
 OrbPhotoshopFF walk(const Bytes& bytes) { return OrbPhotoshopFF::photoshopFFWithIRBPtr(orb::ByteView(bytes)); }

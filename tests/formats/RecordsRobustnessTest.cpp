@@ -9,10 +9,11 @@
 
 #include "formats/OrbIPTCIIM.h"
 #include "formats/OrbPhotoshopFF.h"
+#include "RecordBytes.h"
 
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
+using namespace recordtest;
 
 // Small deterministic generator, so a failure reproduces.
 struct XorShift {
@@ -30,14 +31,8 @@ const Bytes kIPTC{0x1C, 1, 90, 0, 3, 0x1B, 0x25, 0x47, 0x1C, 2, 25, 0, 3, 'a', '
                   0x1C, 2, 120, 0x80, 0x02, 0x00, 0x04, 'x', 'y', 'z', 0x1C, 2, 55, 0, 8,
                   '2', '0', '2', '3', '0', '4', '1', '5'};
 
-Bytes blocks() {
-  Bytes out{'8', 'B', 'I', 'M', 0x04, 0x04, 3, 'a', 'b', 'c', 0, 0, 0, static_cast<std::uint8_t>(kIPTC.size())};
-  out.insert(out.end(), kIPTC.begin(), kIPTC.end());
-  if (kIPTC.size() % 2) out.push_back(0);
-  const Bytes second{'8', 'B', 'I', 'M', 0x03, 0xED, 0, 0, 0, 0, 0, 3, 1, 2, 3, 0};
-  out.insert(out.end(), second.begin(), second.end());
-  return out;
-}
+// An IPTC block with an odd name and odd data, then one with odd data.
+Bytes blocks() { return block(0x0404, "abc", kIPTC) + block(0x03ED, "", {1, 2, 3}); }
 
 Bytes mutate(Bytes bytes, XorShift& rng) {
   const std::size_t changes = 1 + rng.below(4);

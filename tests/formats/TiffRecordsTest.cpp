@@ -14,8 +14,7 @@ using namespace recordtest;
 const Bytes kIPTC{0x1C, 2, 5, 0, 4, 'T', 'e', 's', 't', 0x1C, 2, 25, 0, 3, 'a', 'b', 'c', 0};
 // A 1005 block and a 1028 block holding kIPTC, in id order, so that they
 // serialise back to the same bytes.
-const Bytes kBlocks = Bytes{'8', 'B', 'I', 'M', 0x03, 0xED, 0, 0} + be32(16) + Bytes(16, 0) +
-                      Bytes{'8', 'B', 'I', 'M', 0x04, 0x04, 0, 0} + be32(18) + kIPTC;
+const Bytes kBlocks = block(1005, "", Bytes(16, 0)) + block(1028, "", kIPTC);
 
 // A big-endian TIFF whose IFD0 holds tag 33723 (UNDEFINED) and tag 34377
 // (BYTE), with both values out of line after the IFD.
