@@ -6,17 +6,15 @@
 #include <QTextStream>
 
 #include <algorithm>
-#include <atomic>
-#include <cstdio>
 #include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
-#include <thread>
 #include <vector>
 
 #include <nlohmann/json.hpp>
 
+#include "cli/CliSupport.h"
 #include "cli/Commands.h"
 #include "formats/FileExpansion.h"
 #include "formats/LumImageFile.h"
@@ -51,18 +49,10 @@ std::optional<Dates> readDates(const fs::path& path, LumError* error) {
 
 std::vector<Outcome> openAll(const std::vector<fs::path>& paths) {
   std::vector<Outcome> outcomes(paths.size());
-  std::atomic<std::size_t> next{0};
-  const auto work = [&] {
-    for (std::size_t i = next++; i < paths.size(); i = next++) {
-      outcomes[i].path = paths[i];
-      outcomes[i].dates = readDates(paths[i], &outcomes[i].error);
-    }
-  };
-  const unsigned workers = std::max(1u, std::min<unsigned>(std::thread::hardware_concurrency(),
-                                                          static_cast<unsigned>(paths.size())));
-  std::vector<std::jthread> threads;
-  for (unsigned i = 1; i < workers; ++i) threads.emplace_back(work);
-  work();
+  cli::forEachInParallel(paths.size(), [&](std::size_t i) {
+    outcomes[i].path = paths[i];
+    outcomes[i].dates = readDates(paths[i], &outcomes[i].error);
+  });
   return outcomes;
 }
 
@@ -74,7 +64,7 @@ nlohmann::ordered_json jsonFor(const Outcome& o) {
   nlohmann::ordered_json j;
   j["path"] = o.path.string();
   if (!o.dates) {
-    j["error"] = {{"domain", o.error.domain}, {"code", o.error.code}};
+    j["error"] = cli::errorJson(o.error);
     return j;
   }
   const Dates& f = *o.dates;
@@ -99,12 +89,12 @@ QString dateColumn(const std::optional<std::string>& date, const std::optional<s
 void printPlain(const std::vector<Outcome>& outcomes) {
   qsizetype pathWidth = 0;
   for (const Outcome& o : outcomes)
-    if (o.dates) pathWidth = std::max(pathWidth, QString::fromStdString(o.path.string()).size());
+    if (o.dates) pathWidth = std::max(pathWidth, cli::displayPath(o.path).size());
   QTextStream out(stdout);
   for (const Outcome& o : outcomes) {
     if (!o.dates) continue;
     const Dates& f = *o.dates;
-    out << QString::fromStdString(o.path.string()).leftJustified(pathWidth) << "  "
+    out << cli::displayPath(o.path).leftJustified(pathWidth) << "  "
         << dateColumn(f.original, f.subSecOriginal).leftJustified(23) << "  "
         << dateColumn(f.digitized, f.subSecDigitized).leftJustified(23) << "  "
         << dateColumn(f.edited, f.subSecEdited).leftJustified(23) << "  "
@@ -113,14 +103,8 @@ void printPlain(const std::vector<Outcome>& outcomes) {
 }
 
 void reportFailures(const std::vector<Outcome>& outcomes) {
-  QTextStream err(stderr);
-  for (const Outcome& o : outcomes) {
-    if (o.dates) continue;
-    err << "lumidate-cli: " << QString::fromStdString(o.path.string()) << ": cannot open ("
-        << QString::fromStdString(o.error.domain) << ' ' << o.error.code;
-    if (!o.error.reason.empty()) err << ", " << QString::fromStdString(o.error.reason);
-    err << ")\n";
-  }
+  for (const Outcome& o : outcomes)
+    if (!o.dates) cli::reportOpenFailure(o.path, o.error);
 }
 
 }  // namespace
@@ -138,7 +122,9 @@ int runDates(const QStringList& args) {
     return 2;
   }
   if (parser.isSet("help")) {
-    QTextStream(stdout) << parser.helpText().replace(args.first(), "lumidate-cli dates");
+    QString help = parser.helpText();
+    help.replace(0, help.indexOf('\n'), "Usage: lumidate-cli dates [--json] PATH...");
+    QTextStream(stdout) << help;
     return 0;
   }
   const QStringList positional = parser.positionalArguments();
@@ -158,8 +144,7 @@ int runDates(const QStringList& args) {
   if (parser.isSet("json")) {
     nlohmann::ordered_json array = nlohmann::ordered_json::array();
     for (const Outcome& o : outcomes) array.push_back(jsonFor(o));
-    const std::string text = array.dump(2) + '\n';
-    std::fwrite(text.data(), 1, text.size(), stdout);
+    cli::printJson(array);
   } else {
     printPlain(outcomes);
   }

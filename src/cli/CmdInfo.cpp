@@ -6,7 +6,6 @@
 #include <QTextStream>
 
 #include <algorithm>
-#include <cstdio>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -14,6 +13,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "cli/CliSupport.h"
 #include "cli/Commands.h"
 #include "formats/LumImageFile.h"
 #include "formats/inspector/LumInfoDataSource.h"
@@ -44,13 +44,12 @@ nlohmann::ordered_json jsonFor(const Outcome& o) {
   nlohmann::ordered_json j;
   j["path"] = o.path.string();
   if (!o.opened) {
-    j["error"] = {{"domain", o.error.domain}, {"code", o.error.code}};
+    j["error"] = cli::errorJson(o.error);
     return j;
   }
   nlohmann::ordered_json rows = nlohmann::ordered_json::array();
   for (const LumInfoRow& r : o.rows) {
     if (r.kind == LumInfoRowKind::Heading) continue;
-    // Texts from a file may hold bytes that are not UTF-8; JSON must not.
     rows.push_back({{"group", r.group}, {"title", r.tagName}, {"value", r.value}});
   }
   j["rows"] = std::move(rows);
@@ -64,7 +63,7 @@ void printPlain(const std::vector<Outcome>& outcomes) {
     if (!o.opened) continue;
     if (!first) out << '\n';
     first = false;
-    out << QString::fromStdString(o.path.string()) << '\n';
+    out << cli::displayPath(o.path) << '\n';
     qsizetype width = 0;
     for (const LumInfoRow& r : o.rows) width = std::max(width, QString::fromStdString(r.tagName).size());
     for (const LumInfoRow& r : o.rows) {
@@ -78,14 +77,8 @@ void printPlain(const std::vector<Outcome>& outcomes) {
 }
 
 void reportFailures(const std::vector<Outcome>& outcomes) {
-  QTextStream err(stderr);
-  for (const Outcome& o : outcomes) {
-    if (o.opened) continue;
-    err << "lumidate-cli: " << QString::fromStdString(o.path.string()) << ": cannot open ("
-        << QString::fromStdString(o.error.domain) << ' ' << o.error.code;
-    if (!o.error.reason.empty()) err << ", " << QString::fromStdString(o.error.reason);
-    err << ")\n";
-  }
+  for (const Outcome& o : outcomes)
+    if (!o.opened) cli::reportOpenFailure(o.path, o.error);
 }
 
 }  // namespace
@@ -103,7 +96,9 @@ int runInfo(const QStringList& args) {
     return 2;
   }
   if (parser.isSet("help")) {
-    QTextStream(stdout) << parser.helpText().replace(args.first(), "lumidate-cli info");
+    QString help = parser.helpText();
+    help.replace(0, help.indexOf('\n'), "Usage: lumidate-cli info [--json] FILE...");
+    QTextStream(stdout) << help;
     return 0;
   }
   const QStringList positional = parser.positionalArguments();
@@ -116,8 +111,7 @@ int runInfo(const QStringList& args) {
   if (parser.isSet("json")) {
     nlohmann::ordered_json array = nlohmann::ordered_json::array();
     for (const Outcome& o : outcomes) array.push_back(jsonFor(o));
-    const std::string text = array.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) + '\n';
-    std::fwrite(text.data(), 1, text.size(), stdout);
+    cli::printJson(array);
   } else {
     printPlain(outcomes);
   }

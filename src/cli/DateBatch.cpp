@@ -5,12 +5,11 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <atomic>
 #include <filesystem>
 #include <memory>
-#include <thread>
 #include <vector>
 
+#include "cli/CliSupport.h"
 #include "documents/LumMultiFileDoc.h"
 #include "formats/FileExpansion.h"
 
@@ -30,18 +29,10 @@ struct Opened {
 
 std::vector<Opened> openAll(const std::vector<fs::path>& paths) {
   std::vector<Opened> opened(paths.size());
-  std::atomic<std::size_t> next{0};
-  const auto work = [&] {
-    for (std::size_t i = next++; i < paths.size(); i = next++) {
-      opened[i].path = paths[i];
-      opened[i].file = LumImageFile::imageFileWithURL(paths[i], &opened[i].error);
-    }
-  };
-  const unsigned workers =
-      std::max(1u, std::min<unsigned>(std::thread::hardware_concurrency(), static_cast<unsigned>(paths.size())));
-  std::vector<std::jthread> threads;
-  for (unsigned i = 1; i < workers; ++i) threads.emplace_back(work);
-  work();
+  forEachInParallel(paths.size(), [&](std::size_t i) {
+    opened[i].path = paths[i];
+    opened[i].file = LumImageFile::imageFileWithURL(paths[i], &opened[i].error);
+  });
   return opened;
 }
 
