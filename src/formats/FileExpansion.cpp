@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <set>
 #include <system_error>
 
@@ -73,6 +74,36 @@ bool naturalPathLess(const std::filesystem::path& a, const std::filesystem::path
   return x == a.end() && y != b.end();
 }
 
+namespace {
+
+// Adds the photos below folder, at any depth. A folder that cannot be read,
+// or that disappears while it is being listed, is passed over: the walk goes
+// on with the others, so one bad folder never hides the rest. Links to
+// folders are not entered (a link loop would never end); links to files are
+// taken like the files themselves.
+void walkFolder(const std::filesystem::path& folder, const std::function<void(const std::filesystem::path&)>& take) {
+  namespace fs = std::filesystem;
+  std::vector<fs::path> pending{folder};
+  while (!pending.empty()) {
+    const fs::path current = std::move(pending.back());
+    pending.pop_back();
+    std::error_code ec;
+    for (fs::directory_iterator it(current, fs::directory_options::skip_permission_denied, ec), end;
+         !ec && it != end; it.increment(ec)) {
+      std::error_code entryError;
+      if (it->is_symlink(entryError)) {
+        if (!it->is_directory(entryError)) take(it->path());
+      } else if (it->is_directory(entryError)) {
+        pending.push_back(it->path());
+      } else if (!entryError) {
+        take(it->path());
+      }
+    }
+  }
+}
+
+}  // namespace
+
 Expansion allPhotoPaths(const std::vector<std::filesystem::path>& paths) {
   namespace fs = std::filesystem;
   Expansion result;
@@ -87,15 +118,10 @@ Expansion allPhotoPaths(const std::vector<std::filesystem::path>& paths) {
       result.missing.push_back(p);
       continue;
     }
-    if (!fs::is_directory(status)) {
+    if (fs::is_directory(status))
+      walkFolder(p, take);
+    else
       take(p);
-      continue;
-    }
-    for (fs::recursive_directory_iterator it(p, fs::directory_options::skip_permission_denied, ec), end;
-         !ec && it != end; it.increment(ec)) {
-      std::error_code fileError;
-      if (!it->is_directory(fileError)) take(it->path());
-    }
   }
   std::sort(result.files.begin(), result.files.end(), naturalPathLess);
   return result;
