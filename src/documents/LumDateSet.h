@@ -8,4 +8,15 @@
 #include <string>
 
 using LumDateMap = std::map<std::string, std::string, std::less<>>;
-using LumDateSet = std::map<std::filesystem::path, LumDateMap>;
+
+// Orders paths by their text: a set is only looked up by the items' own
+// paths, and comparing the text is far cheaper than comparing path
+// components one by one (a change of 10,000 files makes some 280,000
+// comparisons).
+struct LumPathTextLess {
+  bool operator()(const std::filesystem::path& a, const std::filesystem::path& b) const {
+    return a.native() < b.native();
+  }
+};
+
+using LumDateSet = std::map<std::filesystem::path, LumDateMap, LumPathTextLess>;

@@ -11,14 +11,16 @@ constexpr LumDateField kFields[DateTargets::kCount] = {LumDateField::DateTimeOri
 
 int sign(int value) { return (value > 0) - (value < 0); }
 
-int caseInsensitiveCompare(const std::string& a, const std::string& b) {
-  return sign(QString::fromStdString(a).compare(QString::fromStdString(b), Qt::CaseInsensitive));
-}
+int caseInsensitiveCompare(const QString& a, const QString& b) { return sign(a.compare(b, Qt::CaseInsensitive)); }
 
 }  // namespace
 
 LumFileItemDoc::LumFileItemDoc(std::filesystem::path url, std::unique_ptr<LumImageFile> imageFile)
-    : url_(std::move(url)), imageFile_(std::move(imageFile)) {
+    : url_(std::move(url)),
+      fileName_(url_.filename().string()),
+      nameKey_(QString::fromStdString(fileName_)),
+      pathKey_(QString::fromStdString(url_.string())),
+      imageFile_(std::move(imageFile)) {
   imageFile_->setOwnerDocument(this);
   for (const DateTargets::Target& t : DateTargets::kTargets) texts_[t.index] = originalText(t.index);
 }
@@ -65,8 +67,8 @@ std::vector<InPlaceWriter::BytePatch> LumFileItemDoc::datePatches() const {
 }
 
 int LumFileItemDoc::compareForFileName(const LumFileItemDoc& other) const {
-  if (const int byName = caseInsensitiveCompare(fileName(), other.fileName())) return byName;
-  return caseInsensitiveCompare(url_.string(), other.url_.string());
+  if (const int byName = caseInsensitiveCompare(nameKey_, other.nameKey_)) return byName;
+  return caseInsensitiveCompare(pathKey_, other.pathKey_);
 }
 
 int LumFileItemDoc::compareForDate(const LumFileItemDoc& other, DateTargets::Index which) const {

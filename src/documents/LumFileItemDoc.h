@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include <QString>
+
 #include "documents/DateTargets.h"
 #include "documents/InPlaceWriter.h"
 #include "formats/LumImageFile.h"
@@ -22,7 +24,7 @@ class LumFileItemDoc : public LumImageFileOwner {
 
   std::optional<std::filesystem::path> fileURL() const override { return url_; }
   const std::filesystem::path& path() const { return url_; }
-  std::string fileName() const { return url_.filename().string(); }
+  const std::string& fileName() const { return fileName_; }
 
   LumImageFile& imageFile() const { return *imageFile_; }
   // Shared with background work (thumbnails) that may outlive a replacement.
@@ -71,6 +73,11 @@ class LumFileItemDoc : public LumImageFileOwner {
   int compareForDate(const LumFileItemDoc& other, DateTargets::Index which) const;
 
   std::filesystem::path url_;
+  // The path never changes, so its name and the texts the name comparison
+  // needs are made once rather than on every comparison of a sort.
+  std::string fileName_;
+  QString nameKey_;
+  QString pathKey_;
   std::shared_ptr<LumImageFile> imageFile_;
   DateTargets::Texts texts_;
 };
