@@ -13,10 +13,6 @@
 namespace InPlaceWriter {
 namespace {
 
-FileIdentity identityFromStat(const struct stat& st) {
-  return {static_cast<std::uint64_t>(st.st_size), static_cast<std::int64_t>(st.st_mtim.tv_sec),
-          static_cast<std::int64_t>(st.st_mtim.tv_nsec)};
-}
 
 std::string systemReason(int error) { return std::system_category().message(error); }
 
@@ -79,7 +75,7 @@ WriteResult failure(std::string reason) { return {false, std::move(reason)}; }
 std::optional<FileIdentity> identityOfFile(const std::filesystem::path& path) {
   struct stat st {};
   if (::stat(path.c_str(), &st) != 0 || !S_ISREG(st.st_mode)) return std::nullopt;
-  return identityFromStat(st);
+  return lum::FileStamp::ofStat(st);
 }
 
 WriteResult writePatches(const std::filesystem::path& path, const FileIdentity& opened,
@@ -93,7 +89,7 @@ WriteResult writePatches(const std::filesystem::path& path, const FileIdentity& 
   OpenFile file(path);
   if (file.fd() < 0) return failure(errno == ENOENT ? kMissingReason : systemReason(errno));
   if (::fstat(file.fd(), &st) != 0) return failure(systemReason(errno));
-  if (!S_ISREG(st.st_mode) || identityFromStat(st) != opened) return failure(kChangedOnDiskReason);
+  if (!S_ISREG(st.st_mode) || lum::FileStamp::ofStat(st) != opened) return failure(kChangedOnDiskReason);
 
   const std::uint64_t size = opened.size;
   std::uint64_t first = UINT64_MAX, end = 0;

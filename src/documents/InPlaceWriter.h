@@ -18,16 +18,13 @@
 #include <span>
 #include <string>
 
+#include "formats/FileData.h"
+
 namespace InPlaceWriter {
 
-// What identifies a file as the one that was opened.
-struct FileIdentity {
-  std::uint64_t size = 0;
-  std::int64_t modifiedSeconds = 0;
-  std::int64_t modifiedNanoseconds = 0;
-
-  friend bool operator==(const FileIdentity&, const FileIdentity&) = default;
-};
+// What identifies a file as the one that was opened: size, modification
+// time and the file itself (device and inode).
+using FileIdentity = lum::FileStamp;
 
 // The identity of the file at path now, or nullopt when it cannot be read
 // (missing, not a regular file).

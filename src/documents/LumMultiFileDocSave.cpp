@@ -25,14 +25,6 @@ struct LumMultiFileDoc::SaveResult {
   std::unique_ptr<LumImageFile> reread;  // the file read again after its save
 };
 
-namespace {
-
-InPlaceWriter::FileIdentity identityOf(const lum::FileStamp& stamp) {
-  return {stamp.size, stamp.mtimeSeconds, stamp.mtimeNanoseconds};
-}
-
-}  // namespace
-
 std::vector<std::uint8_t> LumMultiFileDoc::_changedDateWithData(orb::ByteView data, const LumFileItemDoc& item) {
   return DateRewrite::applied(data, item.datePatches());
 }
@@ -74,7 +66,7 @@ bool LumMultiFileDoc::saveFileAll(bool all, bool closeAfterSave, bool quitApp) {
         continue;
       }
       const InPlaceWriter::WriteResult written =
-          job.opened ? InPlaceWriter::writePatches(job.path, identityOf(*job.opened), job.patches, write)
+          job.opened ? InPlaceWriter::writePatches(job.path, *job.opened, job.patches, write)
                      : InPlaceWriter::WriteResult{false, InPlaceWriter::kChangedOnDiskReason};
       result.saved = written.ok;
       result.reason = written.reason;

@@ -30,9 +30,7 @@ bool LumSingleFileDoc::saveFileAll(bool /*all*/, bool closeAfterSave, bool quitA
     const std::vector<InPlaceWriter::BytePatch> patches =
         DateRewrite::patchesForPickerDates(DateRewrite::locationsOf(*imageFile_), pickerDatesToWrite());
     const std::optional<lum::FileStamp> opened = imageFile_->stampAsOpened();
-    written = opened ? InPlaceWriter::writePatches(
-                           *fileURL_, {opened->size, opened->mtimeSeconds, opened->mtimeNanoseconds}, patches,
-                           writeFunction_)
+    written = opened ? InPlaceWriter::writePatches(*fileURL_, *opened, patches, writeFunction_)
                      : InPlaceWriter::WriteResult{false, InPlaceWriter::kChangedOnDiskReason};
   }
 

@@ -11,10 +11,6 @@ namespace lum {
 
 namespace {
 
-FileStamp stampOf(const struct stat& st) {
-  return {static_cast<std::uint64_t>(st.st_size), static_cast<std::int64_t>(st.st_mtim.tv_sec),
-          static_cast<std::int64_t>(st.st_mtim.tv_nsec)};
-}
 
 ReadFailure failureFor(const std::filesystem::path& path, int error) {
   ReadFailure f;
@@ -34,10 +30,16 @@ struct Descriptor {
 
 }  // namespace
 
+FileStamp FileStamp::ofStat(const struct stat& st) {
+  return {static_cast<std::uint64_t>(st.st_size), static_cast<std::int64_t>(st.st_mtim.tv_sec),
+          static_cast<std::int64_t>(st.st_mtim.tv_nsec), static_cast<std::uint64_t>(st.st_dev),
+          static_cast<std::uint64_t>(st.st_ino)};
+}
+
 std::optional<FileStamp> FileStamp::of(const std::filesystem::path& path) {
   struct stat st {};
   if (::stat(path.c_str(), &st) != 0) return std::nullopt;
-  return stampOf(st);
+  return FileStamp::ofStat(st);
 }
 
 std::shared_ptr<const FileData> FileData::mapFile(const std::filesystem::path& path, ReadFailure* failure) {
@@ -52,7 +54,7 @@ std::shared_ptr<const FileData> FileData::mapFile(const std::filesystem::path& p
     return nullptr;
   }
   auto data = std::shared_ptr<FileData>(new FileData());
-  data->stamp_ = stampOf(st);
+  data->stamp_ = FileStamp::ofStat(st);
   if (st.st_size == 0) return data;  // nothing to map: an empty file
   const auto size = static_cast<std::size_t>(st.st_size);
   void* mapping = ::mmap(nullptr, size, PROT_READ, MAP_SHARED, file.fd, 0);

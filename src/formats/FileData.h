@@ -14,6 +14,8 @@
 
 #include "core/ByteView.h"
 
+struct stat;
+
 namespace lum {
 
 // Size and modification time of a file, used to tell whether the file on disk
@@ -22,11 +24,16 @@ struct FileStamp {
   std::uint64_t size = 0;
   std::int64_t mtimeSeconds = 0;
   std::int64_t mtimeNanoseconds = 0;
+  // Which file the path named: another file moved into its place (same size,
+  // modification time copied) is still told apart.
+  std::uint64_t device = 0;
+  std::uint64_t inode = 0;
 
   friend bool operator==(const FileStamp&, const FileStamp&) = default;
 
   // The file's current stamp, or nullopt when it cannot be read.
   static std::optional<FileStamp> of(const std::filesystem::path& path);
+  static FileStamp ofStat(const struct stat& st);
 };
 
 // Why a read failed, in the three parts the console line reports.

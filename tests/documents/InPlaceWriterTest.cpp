@@ -91,6 +91,18 @@ TEST_F(WriterFixture, RefusesAndLeavesTheFileUntouched) {
        },
        {{10, kDate}},
        kChangedOnDiskReason},
+      {"replaced by a copy with the same size and time",
+       [](const auto& p) {
+         struct stat st {};
+         ::stat(p.c_str(), &st);
+         const std::filesystem::path copy = std::filesystem::path(p).concat(".new");
+         std::filesystem::copy_file(p, copy);
+         const timespec times[2] = {{0, UTIME_OMIT}, st.st_mtim};
+         ::utimensat(AT_FDCWD, copy.c_str(), times, 0);
+         std::filesystem::rename(copy, p);
+       },
+       {{10, kDate}},
+       kChangedOnDiskReason},
       {"read-only", [](const auto& p) { ::chmod(p.c_str(), 0444); }, {{10, kDate}}, kReadOnlyReason},
       {"beyond the end", [](const auto&) {}, {{10, kDate}, {400 - 18, kDate}}, kBeyondEndReason},
       {"far beyond the end", [](const auto&) {}, {{UINT64_MAX - 5, kDate}}, kBeyondEndReason},
