@@ -68,8 +68,36 @@ std::shared_ptr<const FileData> FileData::mapFile(const std::filesystem::path& p
   return data;
 }
 
-std::shared_ptr<const FileData> FileData::fromBytes(std::vector<std::uint8_t> bytes) {
+std::shared_ptr<const FileData> FileData::readFile(const std::filesystem::path& path, ReadFailure* failure) {
+  const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
+  struct stat st {};
+  if (file.fd < 0 || ::fstat(file.fd, &st) != 0) {
+    if (failure) *failure = failureFor(path, errno);
+    return nullptr;
+  }
+  if (!S_ISREG(st.st_mode)) {
+    if (failure) *failure = failureFor(path, S_ISDIR(st.st_mode) ? EISDIR : EINVAL);
+    return nullptr;
+  }
+  std::vector<std::uint8_t> bytes(static_cast<std::size_t>(st.st_size));
+  std::size_t done = 0;
+  while (done < bytes.size()) {
+    const ssize_t n = ::pread(file.fd, bytes.data() + done, bytes.size() - done, static_cast<off_t>(done));
+    if (n < 0 && errno == EINTR) continue;
+    if (n < 0) {
+      if (failure) *failure = failureFor(path, errno);
+      return nullptr;
+    }
+    if (n == 0) break;  // cut short while reading: keep what is there
+    done += static_cast<std::size_t>(n);
+  }
+  bytes.resize(done);
+  return fromBytes(std::move(bytes), FileStamp::ofStat(st));
+}
+
+std::shared_ptr<const FileData> FileData::fromBytes(std::vector<std::uint8_t> bytes, std::optional<FileStamp> stamp) {
   auto data = std::shared_ptr<FileData>(new FileData());
+  data->stamp_ = stamp;
   data->owned_ = std::move(bytes);
   data->data_ = data->owned_.data();
   data->size_ = data->owned_.size();

@@ -50,8 +50,15 @@ class FileData {
   // nullptr and fills *failure when given.
   static std::shared_ptr<const FileData> mapFile(const std::filesystem::path& path, ReadFailure* failure = nullptr);
 
+  // Reads the whole file into memory. For work that runs long after the file
+  // was opened (thumbnails, the viewer): another program may have cut the
+  // file short since, and touching a mapping past the file's new end would
+  // kill the process, whereas a copy read now is always whole.
+  static std::shared_ptr<const FileData> readFile(const std::filesystem::path& path, ReadFailure* failure = nullptr);
+
   // Holds a copy of bytes already in memory (the bytes written by a save).
-  static std::shared_ptr<const FileData> fromBytes(std::vector<std::uint8_t> bytes);
+  static std::shared_ptr<const FileData> fromBytes(std::vector<std::uint8_t> bytes,
+                                                   std::optional<FileStamp> stamp = std::nullopt);
 
   ~FileData();
   FileData(const FileData&) = delete;

@@ -194,9 +194,10 @@ void LumImageFile::makeThumbnail() {
   if (thumbnail()) return;
   const auto url = fileURL();
   if (!url) return;
-  // The bytes as opened are the file's bytes; reading them again from disk
-  // would only cost time.
-  auto data = imageData_ ? imageData_ : lum::FileData::mapFile(*url);
+  // Decoded from a copy read now rather than from the mapping made at
+  // opening: the file may have been cut short by another program since, and
+  // the copy costs little next to the decoding.
+  auto data = lum::FileData::readFile(*url);
   std::shared_ptr<const lum::Bitmap> result;
   if (data) {
     const auto box = static_cast<int>(kThumbnailBox);

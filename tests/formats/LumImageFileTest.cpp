@@ -125,7 +125,10 @@ TEST(LumImageFileOpen, TiffHeaderAtZero) {
   }
   LumError error;
   const auto file = LumImageFile::imageFileWithURL(path, &error);
-  std::filesystem::remove(path);
+  struct Remove {
+    std::filesystem::path path;
+    ~Remove() { std::filesystem::remove(path); }
+  } removeLater{path};
   ASSERT_TRUE(file) << error.reason;
   ASSERT_TRUE(file->tiff());
   EXPECT_EQ(file->tiff()->tiffHeaderLocation(), 0u);
@@ -142,18 +145,37 @@ TEST(LumImageFileOpen, TiffHeaderAtZero) {
 }
 
 TEST(LumImageFileThumbnail, FitsTheBoxAndNeedsAnOwner) {
-  auto o = lumtest::openBytes(lumtest::encodeJpeg(640, 480));
-  ASSERT_TRUE(o.file) << o.error.reason;
-  o.file->makeThumbnail();
-  EXPECT_FALSE(o.file->thumbnail());  // no owner, no path: nothing made
+  const lumtest::TempFile temp(lumtest::encodeJpeg(640, 480));
+  LumError error;
+  const auto file = LumImageFile::imageFileWithURL(temp.path(), &error);
+  ASSERT_TRUE(file) << error.reason;
+  file->makeThumbnail();
+  EXPECT_FALSE(file->thumbnail());  // no owner, no path: nothing made
   lumtest::PathOwner owner;
-  owner.path = "/the/file/as/opened.jpg";
-  o.file->setOwnerDocument(&owner);
-  o.file->makeThumbnail();
-  const auto thumb = o.file->thumbnail();
+  owner.path = temp.path();
+  file->setOwnerDocument(&owner);
+  file->makeThumbnail();
+  const auto thumb = file->thumbnail();
   ASSERT_TRUE(thumb);
   EXPECT_EQ(thumb->width, 150);
   EXPECT_EQ(thumb->height, 113);
+}
+
+TEST(LumImageFileThumbnail, AFileCutShortAfterOpeningGivesThePlaceholderNotACrash) {
+  // Decoding from the mapping made at opening would touch pages past the
+  // file's new end and kill the process.
+  const lumtest::TempFile temp(lumtest::encodeJpeg(640, 480));
+  LumError error;
+  const auto file = LumImageFile::imageFileWithURL(temp.path(), &error);
+  ASSERT_TRUE(file) << error.reason;
+  std::filesystem::resize_file(temp.path(), 0);
+  lumtest::PathOwner owner;
+  owner.path = temp.path();
+  file->setOwnerDocument(&owner);
+  file->makeThumbnail();
+  const auto thumb = file->thumbnail();
+  ASSERT_TRUE(thumb);
+  EXPECT_EQ(thumb->width, file->errorImage()->width);
 }
 
 TEST(LumImageFileOpen, UnusualSamplingFactorsStillOpen) {
