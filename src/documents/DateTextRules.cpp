@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "datetime/DateAdditions.h"
+#include "documents/ExifDateText.h"
 #include "datetime/TimeZone.h"
 
 namespace DateTextRules {
@@ -52,10 +53,18 @@ std::optional<std::vector<std::string_view>> numberParts(std::string_view text) 
   return parts;
 }
 
+// The shifted seconds of a text in the common form, without the general
+// parser and formatter; none sends the text down the general path.
+std::optional<std::int64_t> quickShift(const std::string& text, const Offsets& o) {
+  const std::optional<std::int64_t> seconds = ExifDateText::secondsOf(text);
+  return seconds ? ExifDateText::shiftedSeconds(*seconds, o) : std::nullopt;
+}
+
 }  // namespace
 
 std::optional<std::string> shiftedDateTimeString(const std::optional<std::string>& text, const Offsets& o) {
   if (!text) return std::nullopt;
+  if (const std::optional<std::int64_t> shifted = quickShift(*text, o)) return ExifDateText::textOf(*shifted);
   const std::optional<Instant> date = DateAdditions::dateWithDateTimeString(*text);
   if (!date) return std::nullopt;
   bool bc = false;
@@ -67,6 +76,8 @@ std::optional<std::string> shiftedDateTimeString(const std::optional<std::string
 
 bool shiftLeavesRange(const std::optional<std::string>& text, const Offsets& o) {
   if (!text || text->empty()) return false;
+  if (const std::optional<std::int64_t> shifted = quickShift(*text, o))
+    return *shifted < kMiniDate.seconds || *shifted > kMaxDate.seconds;
   const std::optional<Instant> date = DateAdditions::dateWithDateTimeString(*text);
   if (!date) return false;
   const std::optional<Instant> shifted = DateAdditions::dateByAddingWithYears(*date, o[0], o[1], o[2], o[3], o[4], o[5]);
