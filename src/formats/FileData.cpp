@@ -53,7 +53,7 @@ std::shared_ptr<const FileData> FileData::mapFile(const std::filesystem::path& p
     if (failure) *failure = failureFor(path, S_ISDIR(st.st_mode) ? EISDIR : EINVAL);
     return nullptr;
   }
-  auto data = std::shared_ptr<FileData>(new FileData());
+  auto data = std::make_shared<FileData>(Key{});
   data->stamp_ = FileStamp::ofStat(st);
   if (st.st_size == 0) return data;  // nothing to map: an empty file
   const auto size = static_cast<std::size_t>(st.st_size);
@@ -96,7 +96,7 @@ std::shared_ptr<const FileData> FileData::readFile(const std::filesystem::path& 
 }
 
 std::shared_ptr<const FileData> FileData::fromBytes(std::vector<std::uint8_t> bytes, std::optional<FileStamp> stamp) {
-  auto data = std::shared_ptr<FileData>(new FileData());
+  auto data = std::make_shared<FileData>(Key{});
   data->stamp_ = stamp;
   data->owned_ = std::move(bytes);
   data->data_ = data->owned_.data();

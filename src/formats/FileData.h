@@ -60,6 +60,14 @@ class FileData {
   static std::shared_ptr<const FileData> fromBytes(std::vector<std::uint8_t> bytes,
                                                    std::optional<FileStamp> stamp = std::nullopt);
 
+  // Only the factories above can make one (the key is private), yet
+  // std::make_shared can call the constructor.
+  struct Key {
+   private:
+    Key() = default;
+    friend class FileData;
+  };
+  explicit FileData(Key) {}
   ~FileData();
   FileData(const FileData&) = delete;
   FileData& operator=(const FileData&) = delete;
@@ -74,8 +82,6 @@ class FileData {
   const std::optional<FileStamp>& stampAsOpened() const { return stamp_; }
 
  private:
-  FileData() = default;
-
   const std::uint8_t* data_ = nullptr;
   std::size_t size_ = 0;
   void* mapping_ = nullptr;  // non-null when data_ is an mmap of size_ bytes
