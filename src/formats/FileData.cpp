@@ -20,13 +20,28 @@ ReadFailure failureFor(const std::filesystem::path& path, int error) {
   return f;
 }
 
-// Closes the descriptor on every path out of mapFile().
+// Closes the descriptor on every path out of mapFile() and readFile().
 struct Descriptor {
   int fd;
   ~Descriptor() {
     if (fd >= 0) ::close(fd);
   }
 };
+
+// True when file was opened and is a regular file (its stat in *st);
+// otherwise fills *failure when given.
+bool isOpenRegularFile(const Descriptor& file, const std::filesystem::path& path, struct stat* st,
+                       ReadFailure* failure) {
+  if (file.fd < 0 || ::fstat(file.fd, st) != 0) {
+    if (failure) *failure = failureFor(path, errno);
+    return false;
+  }
+  if (!S_ISREG(st->st_mode)) {
+    if (failure) *failure = failureFor(path, S_ISDIR(st->st_mode) ? EISDIR : EINVAL);
+    return false;
+  }
+  return true;
+}
 
 }  // namespace
 
@@ -45,14 +60,7 @@ std::optional<FileStamp> FileStamp::of(const std::filesystem::path& path) {
 std::shared_ptr<const FileData> FileData::mapFile(const std::filesystem::path& path, ReadFailure* failure) {
   const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
   struct stat st {};
-  if (file.fd < 0 || ::fstat(file.fd, &st) != 0) {
-    if (failure) *failure = failureFor(path, errno);
-    return nullptr;
-  }
-  if (!S_ISREG(st.st_mode)) {
-    if (failure) *failure = failureFor(path, S_ISDIR(st.st_mode) ? EISDIR : EINVAL);
-    return nullptr;
-  }
+  if (!isOpenRegularFile(file, path, &st, failure)) return nullptr;
   auto data = std::make_shared<FileData>(Key{});
   data->stamp_ = FileStamp::ofStat(st);
   if (st.st_size == 0) return data;  // nothing to map: an empty file
@@ -71,14 +79,7 @@ std::shared_ptr<const FileData> FileData::mapFile(const std::filesystem::path& p
 std::shared_ptr<const FileData> FileData::readFile(const std::filesystem::path& path, ReadFailure* failure) {
   const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
   struct stat st {};
-  if (file.fd < 0 || ::fstat(file.fd, &st) != 0) {
-    if (failure) *failure = failureFor(path, errno);
-    return nullptr;
-  }
-  if (!S_ISREG(st.st_mode)) {
-    if (failure) *failure = failureFor(path, S_ISDIR(st.st_mode) ? EISDIR : EINVAL);
-    return nullptr;
-  }
+  if (!isOpenRegularFile(file, path, &st, failure)) return nullptr;
   std::vector<std::uint8_t> bytes(static_cast<std::size_t>(st.st_size));
   std::size_t done = 0;
   while (done < bytes.size()) {
