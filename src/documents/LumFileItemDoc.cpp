@@ -11,15 +11,14 @@ constexpr LumDateField kFields[DateTargets::kCount] = {LumDateField::DateTimeOri
 
 int sign(int value) { return (value > 0) - (value < 0); }
 
-int caseInsensitiveCompare(const QString& a, const QString& b) { return sign(a.compare(b, Qt::CaseInsensitive)); }
 
 }  // namespace
 
 LumFileItemDoc::LumFileItemDoc(std::filesystem::path url, std::unique_ptr<LumImageFile> imageFile)
     : url_(std::move(url)),
       fileName_(url_.filename().string()),
-      nameKey_(QString::fromStdString(fileName_)),
-      pathKey_(QString::fromStdString(url_.string())),
+      nameKey_(nameKey(fileName_)),
+      pathKey_(nameKey(url_.string())),
       imageFile_(std::move(imageFile)) {
   imageFile_->setOwnerDocument(this);
   for (const DateTargets::Target& t : DateTargets::kTargets) texts_[t.index] = originalText(t.index);
@@ -66,9 +65,27 @@ std::vector<InPlaceWriter::BytePatch> LumFileItemDoc::datePatches() const {
   return DateRewrite::patchesForTexts(DateRewrite::locationsOf(*imageFile_), texts_);
 }
 
+LumFileItemDoc::NameKey LumFileItemDoc::nameKey(const std::string& text) {
+  NameKey key{QString::fromStdString(text), {}, true};
+  key.asciiLower.reserve(text.size());
+  for (const char c : text) {
+    if (static_cast<unsigned char>(c) >= 0x80) return {key.text, {}, false};
+    key.asciiLower.push_back(c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c);
+  }
+  return key;
+}
+
+// Qt's case-insensitive comparison folds each UTF-16 unit and then compares
+// lengths; for ASCII text that is the order of the lower-cased bytes, which
+// costs far less than folding both texts again on every comparison of a sort.
+int LumFileItemDoc::compareNameKeys(const NameKey& a, const NameKey& b) {
+  if (a.ascii && b.ascii) return sign(a.asciiLower.compare(b.asciiLower));
+  return sign(a.text.compare(b.text, Qt::CaseInsensitive));
+}
+
 int LumFileItemDoc::compareForFileName(const LumFileItemDoc& other) const {
-  if (const int byName = caseInsensitiveCompare(nameKey_, other.nameKey_)) return byName;
-  return caseInsensitiveCompare(pathKey_, other.pathKey_);
+  if (const int byName = compareNameKeys(nameKey_, other.nameKey_)) return byName;
+  return compareNameKeys(pathKey_, other.pathKey_);
 }
 
 int LumFileItemDoc::compareForDate(const LumFileItemDoc& other, DateTargets::Index which) const {

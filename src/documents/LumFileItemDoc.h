@@ -76,8 +76,15 @@ class LumFileItemDoc : public LumImageFileOwner {
   // The path never changes, so its name and the texts the name comparison
   // needs are made once rather than on every comparison of a sort.
   std::string fileName_;
-  QString nameKey_;
-  QString pathKey_;
+  struct NameKey {
+    QString text;
+    std::string asciiLower;  // lower-cased bytes when the text is all ASCII
+    bool ascii = false;
+  };
+  static NameKey nameKey(const std::string& text);
+  static int compareNameKeys(const NameKey& a, const NameKey& b);
+  NameKey nameKey_;
+  NameKey pathKey_;
   std::shared_ptr<LumImageFile> imageFile_;
   DateTargets::Texts texts_;
 };

@@ -103,6 +103,23 @@ TEST_F(SortFixture, NamesCompareWithoutCaseThenByWholePath) {
   EXPECT_EQ(doc->itemForURL(folder / "sub/B.jpg")->fileName(), "B.jpg");
 }
 
+TEST(FileNameOrder, PairsCompareAsQtCaseInsensitiveComparisonDoes) {
+  const TempFolder folder;
+  const std::vector<std::string> names{"a.jpg",  "B.jpg", "[x].jpg", "_x.jpg", "Z.jpg",  "z1.jpg", "~.jpg",
+                                       "é.jpg", "E.jpg", "Été.jpg", "ab.jpg", "AB.JPG", "a.jpeg", "0.jpg"};
+  std::vector<std::unique_ptr<LumFileItemDoc>> items;
+  for (const std::string& name : names) items.push_back(openItem(writePhoto(folder, name, {})));
+  for (std::size_t i = 0; i < names.size(); ++i)
+    for (std::size_t j = 0; j < names.size(); ++j) {
+      ASSERT_TRUE(items[i] && items[j]);
+      const int qt = QString::fromStdString(names[i]).compare(QString::fromStdString(names[j]), Qt::CaseInsensitive);
+      if (qt == 0) continue;  // same name but for case: the paths decide, tested above
+      const int mine = items[i]->compareForFileName(*items[j]);
+      EXPECT_EQ(mine < 0, qt < 0) << names[i] << " vs " << names[j];
+      EXPECT_NE(mine, 0) << names[i] << " vs " << names[j];
+    }
+}
+
 TEST_F(SortFixture, EditedRowsFirstAndTheStateFollowsLaterChanges) {
   doc->tableViewSortDescriptorsDidChange({{"Edited", true}});
   EXPECT_EQ(paths(rows(*doc), folder),
