@@ -11,6 +11,20 @@
 
 namespace cli {
 
+std::optional<int> parseCommandLine(QCommandLineParser& parser, const QStringList& args, const Usage& usage) {
+  if (!parser.parse(args)) return usageError(usage, parser.errorText());
+  if (!parser.isSet("help")) return std::nullopt;
+  QString help = parser.helpText();
+  help.replace(0, help.indexOf('\n'), QStringLiteral("Usage: ") + usage.synopsis);
+  QTextStream(stdout) << help << usage.examples;
+  return 0;
+}
+
+int usageError(const Usage& usage, const QString& message) {
+  QTextStream(stderr) << "lumidate-cli " << usage.command << ": " << message << "\nUsage: " << usage.synopsis << '\n';
+  return 2;
+}
+
 void forEachInParallel(std::size_t count, const std::function<void(std::size_t)>& work) {
   std::atomic<std::size_t> next{0};
   const auto worker = [&] {

@@ -2,17 +2,36 @@
 // Pieces every lumidate-cli command shares: work spread over all cores, the
 // error object and line of a file that cannot be opened, and JSON output.
 
+#include <QCommandLineParser>
 #include <QString>
+#include <QStringList>
 
 #include <cstddef>
 #include <filesystem>
 #include <functional>
+#include <optional>
 
 #include <nlohmann/json.hpp>
 
 #include "core/LumError.h"
 
 namespace cli {
+
+// What a command says of itself in --help and after wrong use.
+struct Usage {
+  const char* command;        // "dates"
+  const char* synopsis;       // "lumidate-cli dates [--json] PATH..."
+  const char* examples = "";  // printed after the options by --help
+};
+
+// Parses args (args[0] is the command's name). Answers the exit status when
+// the command is done already (--help printed: 0; wrong options: 2), or
+// nullopt when it should go on.
+std::optional<int> parseCommandLine(QCommandLineParser& parser, const QStringList& args, const Usage& usage);
+
+// "lumidate-cli COMMAND: message" and the synopsis on standard error;
+// answers 2, the exit status of wrong use.
+int usageError(const Usage& usage, const QString& message);
 
 // Calls work(i) for every i in [0, count), spread over all cores; returns
 // when every call has returned. Each i is taken exactly once.

@@ -117,21 +117,10 @@ int runDates(const QStringList& args) {
   parser.addHelpOption();
   parser.addOption({"json", "Print one JSON array instead of aligned lines."});
   parser.addPositionalArgument("PATH", "Photo files or folders (searched at any depth).", "PATH...");
-  if (!parser.parse(args)) {
-    QTextStream(stderr) << "lumidate-cli dates: " << parser.errorText() << '\n';
-    return 2;
-  }
-  if (parser.isSet("help")) {
-    QString help = parser.helpText();
-    help.replace(0, help.indexOf('\n'), "Usage: lumidate-cli dates [--json] PATH...");
-    QTextStream(stdout) << help;
-    return 0;
-  }
+  const cli::Usage usage{"dates", "lumidate-cli dates [--json] PATH..."};
+  if (const auto done = cli::parseCommandLine(parser, args, usage)) return *done;
   const QStringList positional = parser.positionalArguments();
-  if (positional.isEmpty()) {
-    QTextStream(stderr) << "lumidate-cli dates: no PATH given\n" << "Usage: lumidate-cli dates [--json] PATH...\n";
-    return 2;
-  }
+  if (positional.isEmpty()) return cli::usageError(usage, "no PATH given");
   std::vector<fs::path> inputs;
   for (const QString& p : positional) inputs.emplace_back(p.toStdString());
   FileExpansion::Expansion expansion = FileExpansion::allPhotoPaths(inputs);

@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <optional>
 
+#include "cli/CliSupport.h"
 #include "cli/Commands.h"
 #include "datetime/DateAdditions.h"
 #include "datetime/LumDayCalculator.h"
@@ -21,19 +22,10 @@ int runDays(const QStringList& args) {
   parser.addHelpOption();
   parser.addPositionalArgument("DATE1", "First date, e.g. 2024:02:28 or 2024-02-28T10:00:00");
   parser.addPositionalArgument("DATE2", "Second date");
-  if (!parser.parse(args)) {
-    QTextStream(stderr) << "lumidate-cli days: " << parser.errorText() << '\n';
-    return 2;
-  }
-  if (parser.isSet("help")) {
-    QTextStream(stdout) << parser.helpText();
-    return 0;
-  }
+  const Usage usage{"days", "lumidate-cli days DATE1 DATE2"};
+  if (const auto done = parseCommandLine(parser, args, usage)) return *done;
   const QStringList dates = parser.positionalArguments();
-  if (dates.size() != 2) {
-    QTextStream(stderr) << "Usage: lumidate-cli days DATE1 DATE2\n";
-    return 2;
-  }
+  if (dates.size() != 2) return usageError(usage, "give exactly two dates");
   std::optional<Instant> instants[2];
   for (int i = 0; i < 2; ++i) {
     instants[i] = DateAdditions::dateWithDateTimeString(dates[i].toStdString());

@@ -91,21 +91,10 @@ int runInfo(const QStringList& args) {
   parser.addHelpOption();
   parser.addOption({"json", "Print one JSON array instead of grouped lines."});
   parser.addPositionalArgument("FILE", "Photo files (JPEG or TIFF).", "FILE...");
-  if (!parser.parse(args)) {
-    QTextStream(stderr) << "lumidate-cli info: " << parser.errorText() << '\n';
-    return 2;
-  }
-  if (parser.isSet("help")) {
-    QString help = parser.helpText();
-    help.replace(0, help.indexOf('\n'), "Usage: lumidate-cli info [--json] FILE...");
-    QTextStream(stdout) << help;
-    return 0;
-  }
+  const cli::Usage usage{"info", "lumidate-cli info [--json] FILE..."};
+  if (const auto done = cli::parseCommandLine(parser, args, usage)) return *done;
   const QStringList positional = parser.positionalArguments();
-  if (positional.isEmpty()) {
-    QTextStream(stderr) << "lumidate-cli info: no FILE given\n" << "Usage: lumidate-cli info [--json] FILE...\n";
-    return 2;
-  }
+  if (positional.isEmpty()) return cli::usageError(usage, "no FILE given");
   std::vector<Outcome> outcomes;
   for (const QString& p : positional) outcomes.push_back(inspect(fs::path(p.toStdString())));
   if (parser.isSet("json")) {

@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <QTextStream>
 
+#include "cli/CliSupport.h"
 #include "cli/Commands.h"
 #include "cli/DateBatch.h"
 #include "documents/DateTextRules.h"
@@ -18,11 +19,10 @@ const char* const kExamples =
     "\nOnly dates a file already has are set; a missing date stays missing.\n"
     "Exit status 1 when some files could not be saved, 2 for a usage error.\n";
 
-int usage(const QString& message) {
-  QTextStream(stderr) << "lumidate-cli set: " << message << '\n'
-                      << "Usage: lumidate-cli set --to \"yyyy:MM:dd HH:mm:ss\" [--only LIST] [--dry-run] PATH...\n";
-  return 2;
-}
+const cli::Usage kUsage{"set", "lumidate-cli set --to \"yyyy:MM:dd HH:mm:ss\" [--only LIST] [--dry-run] PATH...",
+                        kExamples};
+
+int usage(const QString& message) { return cli::usageError(kUsage, message); }
 
 // Exactly "yyyy:MM:dd HH:mm:ss" naming a real date and time of years 1..9999.
 std::optional<std::array<long, 6>> parseTime(const QString& text) {
@@ -54,13 +54,7 @@ int runSet(const QStringList& args) {
                     "LIST"});
   parser.addOption({"dry-run", "Print old and new dates without writing."});
   parser.addPositionalArgument("PATH", "Photo files or folders (searched at any depth).", "PATH...");
-  if (!parser.parse(args)) return usage(parser.errorText());
-  if (parser.isSet("help")) {
-    QString help = parser.helpText();
-    help.replace(0, help.indexOf('\n'), "Usage: lumidate-cli set [options] PATH...");
-    QTextStream(stdout) << help << kExamples;
-    return 0;
-  }
+  if (const auto done = parseCommandLine(parser, args, kUsage)) return *done;
   if (!parser.isSet("to")) return usage("--to is required");
   const std::optional<std::array<long, 6>> fields = parseTime(parser.value("to"));
   if (!fields) return usage("--to takes a real date and time as \"yyyy:MM:dd HH:mm:ss\", not '" + parser.value("to") + "'");

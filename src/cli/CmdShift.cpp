@@ -4,6 +4,7 @@
 #include <QCommandLineParser>
 #include <QTextStream>
 
+#include "cli/CliSupport.h"
 #include "cli/Commands.h"
 #include "cli/DateBatch.h"
 
@@ -25,12 +26,12 @@ const char* const kExamples =
     "offending files are listed (exit status 2). Exit status 1 when some files\n"
     "could not be saved.\n";
 
-int usage(const QString& message) {
-  QTextStream(stderr) << "lumidate-cli shift: " << message << '\n'
-                      << "Usage: lumidate-cli shift [--backward] [--years N] [--months N] [--days N] [--hours N] "
-                         "[--minutes N] [--seconds N] [--only LIST] [--dry-run] PATH...\n";
-  return 2;
-}
+const cli::Usage kUsage{"shift",
+                        "lumidate-cli shift [--backward] [--years N] [--months N] [--days N] [--hours N] "
+                        "[--minutes N] [--seconds N] [--only LIST] [--dry-run] PATH...",
+                        kExamples};
+
+int usage(const QString& message) { return cli::usageError(kUsage, message); }
 
 }  // namespace
 
@@ -46,13 +47,7 @@ int runShift(const QStringList& args) {
                     "LIST"});
   parser.addOption({"dry-run", "Print old and new dates without writing."});
   parser.addPositionalArgument("PATH", "Photo files or folders (searched at any depth).", "PATH...");
-  if (!parser.parse(args)) return usage(parser.errorText());
-  if (parser.isSet("help")) {
-    QString help = parser.helpText();
-    help.replace(0, help.indexOf('\n'), "Usage: lumidate-cli shift [options] PATH...");
-    QTextStream(stdout) << help << kExamples;
-    return 0;
-  }
+  if (const auto done = parseCommandLine(parser, args, kUsage)) return *done;
 
   DateBatchRequest request;
   request.command = "shift";
