@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <utility>
 
 #include "datetime/DateAdditions.h"
 #include "documents/LumDateChangeCommands.h"
@@ -259,7 +260,7 @@ void LumMultiFileDoc::applyToAllFiles() {
   // as it always has.
   const QString word = LumLocalized::text(kActionModeWords[static_cast<int>(actionMode_)]);
   const QString name = word + " " + (setText ? QString::fromStdString(*setText) : QStringLiteral("(null)"));
-  _changeDateWithNewDateTimeSet(newSet, oldSet, name);
+  _changeDateWithNewDateTimeSet(std::move(newSet), std::move(oldSet), name);
 
   if (!setTime) {
     pClearChangeByTimeIntervalFields();
@@ -267,10 +268,9 @@ void LumMultiFileDoc::applyToAllFiles() {
   }
 }
 
-void LumMultiFileDoc::_changeDateWithNewDateTimeSet(const LumDateSet& newSet, const LumDateSet& oldSet,
-                                                    const QString& actionName) {
+void LumMultiFileDoc::_changeDateWithNewDateTimeSet(LumDateSet newSet, LumDateSet oldSet, const QString& actionName) {
   if (newSet.empty()) return;
-  undoStack_.push(new LumDateSetCommand(*this, newSet, oldSet, actionName));  // applies newSet
+  undoStack_.push(new LumDateSetCommand(*this, std::move(newSet), std::move(oldSet), actionName));  // applies newSet
 }
 
 void LumMultiFileDoc::applyDateSet(const LumDateSet& set) {
@@ -305,7 +305,7 @@ void LumMultiFileDoc::pRestoreDocuments(const std::vector<LumFileItemDoc*>& item
     oldSet.emplace(item->path(), std::move(oldMap));
     newSet.emplace(item->path(), std::move(newMap));
   }
-  if (!newSet.empty()) _changeDateWithNewDateTimeSet(newSet, oldSet, QString());
+  if (!newSet.empty()) _changeDateWithNewDateTimeSet(std::move(newSet), std::move(oldSet), QString());
 }
 
 void LumMultiFileDoc::restoreSelectedFiles() { pRestoreDocuments(pDocumentsByRightCliced(nullptr)); }

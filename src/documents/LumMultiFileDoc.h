@@ -126,7 +126,9 @@ class LumMultiFileDoc : public QObject {
   // --- Changes --------------------------------------------------------------
   void applyToAllFiles();
   // Applies newSet and registers the exchange of the two sets for undo.
-  void _changeDateWithNewDateTimeSet(const LumDateSet& newSet, const LumDateSet& oldSet, const QString& actionName);
+  // Takes the sets by value: the undo command keeps them, and a change of
+  // thousands of files should not copy them.
+  void _changeDateWithNewDateTimeSet(LumDateSet newSet, LumDateSet oldSet, const QString& actionName);
   void restoreSelectedFiles();
   void restoreAllFiles();
   void pRestoreDocuments(const std::vector<LumFileItemDoc*>& items);
