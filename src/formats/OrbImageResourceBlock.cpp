@@ -11,8 +11,13 @@ OrbImageResourceBlock::OrbImageResourceBlock(std::uint32_t signature, std::uint1
 }
 
 void OrbImageResourceBlock::setName(std::optional<std::string> name) {
-  if (name && name->empty()) name.reset();
-  name_ = std::move(name);
+  // An empty name is no name. Assigned through emplace/reset rather than by
+  // moving the optional: GCC 12 at -O3 takes that move for a read of
+  // uninitialised memory (-Wmaybe-uninitialized) and -Werror stops the build.
+  if (name && !name->empty())
+    name_.emplace(std::move(*name));
+  else
+    name_.reset();
 }
 
 std::string OrbImageResourceBlock::titleWithID(std::uint16_t irbID) {
