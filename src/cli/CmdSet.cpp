@@ -50,28 +50,16 @@ int runSet(const QStringList& args) {
   parser.setApplicationDescription("Sets the dates of photo files to one date and time.");
   parser.addHelpOption();
   parser.addOption({"to", "The date and time to set, exactly \"yyyy:MM:dd HH:mm:ss\".", "TIME"});
-  parser.addOption({"only", "Dates to change: a comma-separated subset of original,digitized,edited (default: all).",
-                    "LIST"});
-  parser.addOption({"dry-run", "Print old and new dates without writing."});
-  parser.addPositionalArgument("PATH", "Photo files or folders (searched at any depth).", "PATH...");
+  addBatchOptions(parser);
   if (const auto done = parseCommandLine(parser, args, kUsage)) return *done;
   if (!parser.isSet("to")) return usage("--to is required");
   const std::optional<std::array<long, 6>> fields = parseTime(parser.value("to"));
   if (!fields) return usage("--to takes a real date and time as \"yyyy:MM:dd HH:mm:ss\", not '" + parser.value("to") + "'");
 
   DateBatchRequest request;
-  request.command = "set";
   request.mode = LumActionMode::SetTime;
   request.fields = *fields;
-  if (parser.isSet("only")) {
-    const std::optional<unsigned> mask = parseTargetList(parser.value("only"));
-    if (!mask) return usage("--only takes a comma-separated subset of original,digitized,edited");
-    request.targetMask = *mask;
-  }
-  request.dryRun = parser.isSet("dry-run");
-  request.paths = parser.positionalArguments();
-  if (request.paths.isEmpty()) return usage("no PATH given");
-  return runDateBatch(request);
+  return runDateBatch(parser, request, kUsage);
 }
 
 }  // namespace cli

@@ -43,14 +43,10 @@ int runShift(const QStringList& args) {
   parser.addHelpOption();
   parser.addOption({"backward", "Shift back in time instead of forward."});
   for (const char* unit : kUnits) parser.addOption({unit, QString("Number of %1 to shift by.").arg(unit), "N", "0"});
-  parser.addOption({"only", "Dates to change: a comma-separated subset of original,digitized,edited (default: all).",
-                    "LIST"});
-  parser.addOption({"dry-run", "Print old and new dates without writing."});
-  parser.addPositionalArgument("PATH", "Photo files or folders (searched at any depth).", "PATH...");
+  addBatchOptions(parser);
   if (const auto done = parseCommandLine(parser, args, kUsage)) return *done;
 
   DateBatchRequest request;
-  request.command = "shift";
   request.mode = parser.isSet("backward") ? LumActionMode::Backward : LumActionMode::Forward;
   bool anyNonZero = false;
   for (std::size_t i = 0; i < kUnits.size(); ++i) {
@@ -67,15 +63,7 @@ int runShift(const QStringList& args) {
     anyNonZero = anyNonZero || value != 0;
   }
   if (!anyNonZero) return usage("give at least one non-zero count (--years ... --seconds)");
-  if (parser.isSet("only")) {
-    const std::optional<unsigned> mask = parseTargetList(parser.value("only"));
-    if (!mask) return usage("--only takes a comma-separated subset of original,digitized,edited");
-    request.targetMask = *mask;
-  }
-  request.dryRun = parser.isSet("dry-run");
-  request.paths = parser.positionalArguments();
-  if (request.paths.isEmpty()) return usage("no PATH given");
-  return runDateBatch(request);
+  return runDateBatch(parser, request, kUsage);
 }
 
 }  // namespace cli

@@ -90,6 +90,26 @@ LumSaveOutcome saveAll(LumMultiFileDoc& doc) {
 
 }  // namespace
 
+void addBatchOptions(QCommandLineParser& parser) {
+  parser.addOption({"only", "Dates to change: a comma-separated subset of original,digitized,edited (default: all).",
+                    "LIST"});
+  parser.addOption({"dry-run", "Print old and new dates without writing."});
+  parser.addPositionalArgument("PATH", "Photo files or folders (searched at any depth).", "PATH...");
+}
+
+int runDateBatch(const QCommandLineParser& parser, DateBatchRequest request, const Usage& usage) {
+  request.command = usage.command;
+  if (parser.isSet("only")) {
+    const std::optional<unsigned> mask = parseTargetList(parser.value("only"));
+    if (!mask) return usageError(usage, "--only takes a comma-separated subset of original,digitized,edited");
+    request.targetMask = *mask;
+  }
+  request.dryRun = parser.isSet("dry-run");
+  request.paths = parser.positionalArguments();
+  if (request.paths.isEmpty()) return usageError(usage, "no PATH given");
+  return runDateBatch(request);
+}
+
 std::optional<unsigned> parseTargetList(const QString& list) {
   unsigned mask = 0;
   for (const QString& word : list.split(',')) {
