@@ -25,18 +25,6 @@ namespace {
 
 const DateTextRules::Offsets kOneDay{0, 0, 1, 0, 0, 0};
 
-pid_t startShift(const fs::path& folder) {
-  const pid_t pid = ::fork();
-  if (pid == 0) {
-    const int null = ::open("/dev/null", O_WRONLY);
-    ::dup2(null, STDOUT_FILENO);
-    ::dup2(null, STDERR_FILENO);
-    ::execl(LUMIDATE_CLI_PATH, LUMIDATE_CLI_PATH, "shift", "--days", "1", folder.c_str(), static_cast<char*>(nullptr));
-    ::_exit(127);
-  }
-  return pid;
-}
-
 int waitFor(pid_t pid) {
   int status = 0;
   ::waitpid(pid, &status, 0);
@@ -66,7 +54,7 @@ TEST(KillDuringSave, EveryFileIsAsBeforeOrAsIntendedAfterEachKill) {
   // run takes, so the kills can fall anywhere in one.
   refresh();
   const auto start = Clock::now();
-  const int status = waitFor(startShift(folder.path()));
+  const int status = waitFor(reltest::startShiftByOneDay(folder.path()));
   const auto runTime = Clock::now() - start;
   ASSERT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "status " << status;
   for (std::size_t i = 0; i < paths.size(); ++i)
@@ -77,7 +65,7 @@ TEST(KillDuringSave, EveryFileIsAsBeforeOrAsIntendedAfterEachKill) {
   int killsMidSave = 0, mixed = 0;
   for (int k = 0; k < kills; ++k) {
     refresh();
-    const pid_t pid = startShift(folder.path());
+    const pid_t pid = reltest::startShiftByOneDay(folder.path());
     std::this_thread::sleep_for(std::chrono::microseconds(moment(random)));
     ::kill(pid, SIGKILL);
     waitFor(pid);

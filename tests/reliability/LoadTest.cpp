@@ -44,14 +44,7 @@ long peakKB() {
 
 // Runs `lumidate-cli shift --days 1 folder`; answers its exit status and peak memory.
 std::pair<int, long> shiftWithTool(const fs::path& folder) {
-  const pid_t pid = ::fork();
-  if (pid == 0) {
-    const int null = ::open("/dev/null", O_WRONLY);
-    ::dup2(null, STDOUT_FILENO);
-    ::dup2(null, STDERR_FILENO);
-    ::execl(LUMIDATE_CLI_PATH, LUMIDATE_CLI_PATH, "shift", "--days", "1", folder.c_str(), static_cast<char*>(nullptr));
-    ::_exit(127);
-  }
+  const pid_t pid = reltest::startShiftByOneDay(folder);
   int status = 0;
   rusage usage{};
   ::wait4(pid, &status, 0, &usage);

@@ -2,6 +2,10 @@
 // Small generated JPEG photos with the three dates, by the thousand, and the
 // bytes each must hold after a shift: for the kill test and the load test.
 
+#include <fcntl.h>
+#include <sys/types.h>
+#include <unistd.h>
+
 #include <cstdint>
 #include <filesystem>
 #include <vector>
@@ -22,5 +26,19 @@ std::vector<std::uint8_t> shiftedBytes(const std::vector<std::uint8_t>& bytes, c
 
 // Count from an environment variable, or fallback when unset or not a number.
 int countFromEnvironment(const char* name, int fallback);
+
+// Starts `lumidate-cli shift --days 1 folder` as a child process with its
+// output thrown away; answers the child's pid.
+inline pid_t startShiftByOneDay(const std::filesystem::path& folder) {
+  const pid_t pid = ::fork();
+  if (pid == 0) {
+    const int null = ::open("/dev/null", O_WRONLY);
+    ::dup2(null, STDOUT_FILENO);
+    ::dup2(null, STDERR_FILENO);
+    ::execl(LUMIDATE_CLI_PATH, LUMIDATE_CLI_PATH, "shift", "--days", "1", folder.c_str(), static_cast<char*>(nullptr));
+    ::_exit(127);
+  }
+  return pid;
+}
 
 }  // namespace reltest
