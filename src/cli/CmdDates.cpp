@@ -125,9 +125,11 @@ int runDates(const QStringList& args) {
   for (const QString& p : positional) inputs.emplace_back(p.toStdString());
   FileExpansion::Expansion expansion = FileExpansion::allPhotoPaths(inputs);
   // A path that does not exist is reported like a file that cannot be read.
-  std::vector<fs::path> paths = expansion.files;
+  std::vector<fs::path> paths = std::move(expansion.files);
+  const auto found = static_cast<std::ptrdiff_t>(paths.size());
+  std::sort(expansion.missing.begin(), expansion.missing.end(), FileExpansion::naturalPathLess);
   paths.insert(paths.end(), expansion.missing.begin(), expansion.missing.end());
-  std::stable_sort(paths.begin(), paths.end(), FileExpansion::naturalPathLess);
+  std::inplace_merge(paths.begin(), paths.begin() + found, paths.end(), FileExpansion::naturalPathLess);
 
   const std::vector<Outcome> outcomes = openAll(paths);
   if (parser.isSet("json")) {

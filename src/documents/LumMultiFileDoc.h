@@ -182,7 +182,8 @@ class LumMultiFileDoc : public QObject {
   bool saveDocument() { return saveFileAll(false, false, false); }
   bool saveAllDocuments() { return saveFileAll(true, false, false); }
   bool isSaving() const { return saving_; }
-  // Replaces the system write (tests make it fail part way).
+  // Replaces the system write (tests make it fail part way). A save calls it
+  // from several threads at once.
   void setWriteFunction(InPlaceWriter::WriteFunction write) { writeFunction_ = std::move(write); }
 
   // Used by the undo commands: put the texts of a set in place.
@@ -208,6 +209,9 @@ class LumMultiFileDoc : public QObject {
   bool allFieldsZero() const;
   void fillSetTimeFieldsWithNow();
   void markEdit(const std::vector<LumFileItemDoc*>& items, bool on, bool onlyWithDates);
+  static SaveResult saveOne(const SaveJob& job, const InPlaceWriter::WriteFunction& write);
+  std::shared_ptr<std::vector<SaveResult>> saveJobs(const std::vector<SaveJob>& jobs,
+                                                    const InPlaceWriter::WriteFunction& write);
   void afterSaving(const std::shared_ptr<std::vector<SaveResult>>& results, bool closeAfterSave, bool quitApp);
 
   std::vector<std::unique_ptr<LumFileItemDoc>> items_;

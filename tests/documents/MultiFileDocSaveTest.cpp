@@ -161,6 +161,61 @@ TEST_F(SaveFixture, AFileThatCannotBeSavedIsReportedWhileTheOthersAreSaved) {
   }
 }
 
+TEST_F(SaveFixture, ManyFilesAtOnceKeepRowOrderAndAForwardProgress) {
+  std::vector<std::pair<std::string, PhotoDates>> photos;
+  for (int i = 0; i < 40; ++i) photos.push_back({"p" + std::to_string(100 + i) + ".jpg", {kA, kA, kA}});
+  open(photos);
+  doc->setEditStateOnAllFiles();
+  doc->setFieldValue(Doc::Minute, 30);
+  doc->applyToAllFiles();
+  // Every seventh file fails; the report lists them in row order.
+  std::vector<std::filesystem::path> failing;
+  for (int row = 0; row < doc->rowCount(); row += 7) {
+    failing.push_back(doc->item(row).path());
+    ::chmod(failing.back().c_str(), 0444);
+  }
+  QSignalSpy progress(doc.get(), &Doc::savingProgress);
+  const LumSaveOutcome outcome = save();
+  EXPECT_EQ(outcome.total, 40u);
+  std::vector<std::filesystem::path> reported;
+  for (const SaveReport::Failure& f : outcome.failures) reported.push_back(f.path);
+  EXPECT_EQ(reported, failing);
+  for (int row = 0; row < doc->rowCount(); ++row) {
+    const LumFileItemDoc& it = doc->item(row);
+    const bool failed = std::find(failing.begin(), failing.end(), it.path()) != failing.end();
+    EXPECT_EQ(it.isEdited(), failed) << it.path();
+    EXPECT_EQ(find(readBytes(it.path()), "2020:01:31 10:30:00") < readBytes(it.path()).size(), !failed) << it.path();
+  }
+  ASSERT_EQ(progress.count(), 40);
+  for (int i = 1; i < progress.count(); ++i) EXPECT_LT(progress[i - 1][0].toDouble(), progress[i][0].toDouble());
+  EXPECT_DOUBLE_EQ(progress.back()[0].toDouble(), 100.0);
+  for (const auto& p : failing) ::chmod(p.c_str(), 0644);
+}
+
+TEST_F(SaveFixture, OnePhotoOpenedUnderTwoNamesNeverLosesAChangeReportedAsSaved) {
+  // "b.jpg" is a second name of "a.jpg". Row a changes the first and last
+  // dates (one run of bytes across the middle one), row b the middle one.
+  open({{"a.jpg", {kA, kA, kA}}});
+  std::filesystem::create_hard_link(folder / "a.jpg", folder / "b.jpg");
+  std::vector<std::unique_ptr<LumFileItemDoc>> items;
+  items.push_back(openItem(folder / "a.jpg"));
+  items.push_back(openItem(folder / "b.jpg"));
+  doc = std::make_unique<Doc>(std::move(items));
+  doc->controlTextDidEndEditing(*doc->rowOf(&item("a.jpg")), "DateTimeOriginal", "2001:01:01 01:01:01", false);
+  doc->controlTextDidEndEditing(*doc->rowOf(&item("a.jpg")), "DateTime", "2003:03:03 03:03:03", false);
+  doc->controlTextDidEndEditing(*doc->rowOf(&item("b.jpg")), "DateTimeDigitized", "2002:02:02 02:02:02", false);
+
+  const LumSaveOutcome outcome = save();
+  const auto bytes = readBytes(folder / "a.jpg");
+  const auto has = [&](const std::string& text) { return find(bytes, text) < bytes.size(); };
+  EXPECT_TRUE(has("2001:01:01 01:01:01") || has("2002:02:02 02:02:02"));
+  for (const auto& [name, text] : {std::pair{"a.jpg", "2001:01:01 01:01:01"}, {"b.jpg", "2002:02:02 02:02:02"}}) {
+    const bool failed = std::any_of(outcome.failures.begin(), outcome.failures.end(),
+                                    [&](const SaveReport::Failure& f) { return f.path == folder / name; });
+    EXPECT_EQ(has(text), !failed) << name;
+  }
+}
+
 TEST_F(SaveFixture, SavingTheSelectionOnly) {
   open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, kB, kB}}});
   const auto beforeB = readBytes(folder / "b.jpg");
