@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "datetime/DateAdditions.h"
-#include "documents/ExifDateText.h"
+#include "datetime/ExifDateText.h"
 #include "datetime/TimeZone.h"
 
 namespace DateTextRules {

@@ -57,19 +57,45 @@ std::optional<FileStamp> FileStamp::of(const std::filesystem::path& path) {
   return FileStamp::ofStat(st);
 }
 
+namespace {
+
+// Reads the whole open file into memory, from its start; a file cut short
+// while it is read gives what was there. Answers 0 or the errno.
+int readWhole(int fd, std::size_t expected, std::unique_ptr<std::uint8_t[]>* buffer, std::size_t* size) {
+  // Not zero-filled first: every byte kept is read from the file.
+  *buffer = std::make_unique_for_overwrite<std::uint8_t[]>(expected);
+  std::size_t done = 0;
+  while (done < expected) {
+    const ssize_t n = ::pread(fd, buffer->get() + done, expected - done, static_cast<off_t>(done));
+    if (n < 0 && errno == EINTR) continue;
+    if (n < 0) return errno;
+    if (n == 0) break;
+    done += static_cast<std::size_t>(n);
+  }
+  *size = done;
+  return 0;
+}
+
+}  // namespace
+
 std::shared_ptr<const FileData> FileData::mapFile(const std::filesystem::path& path, ReadFailure* failure) {
   const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
   struct stat st {};
   if (!isOpenRegularFile(file, path, &st, failure)) return nullptr;
-  auto data = std::make_shared<FileData>(Key{});
-  data->stamp_ = FileStamp::ofStat(st);
-  if (st.st_size == 0) return data;  // nothing to map: an empty file
   const auto size = static_cast<std::size_t>(st.st_size);
+  if (size <= kReadWholeUpTo) {
+    // Copying a small file costs less than mapping it: every unmapping
+    // interrupts the other cores running this process to flush their address
+    // caches, which dominated listing folders of thousands of small photos.
+    return readOpenFile(file.fd, st, path, failure);
+  }
   void* mapping = ::mmap(nullptr, size, PROT_READ, MAP_SHARED, file.fd, 0);
   if (mapping == MAP_FAILED) {
     if (failure) *failure = failureFor(path, errno);
     return nullptr;
   }
+  auto data = std::make_shared<FileData>(Key{});
+  data->stamp_ = FileStamp::ofStat(st);
   data->mapping_ = mapping;
   data->data_ = static_cast<const std::uint8_t*>(mapping);
   data->size_ = size;
@@ -80,20 +106,21 @@ std::shared_ptr<const FileData> FileData::readFile(const std::filesystem::path& 
   const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
   struct stat st {};
   if (!isOpenRegularFile(file, path, &st, failure)) return nullptr;
-  std::vector<std::uint8_t> bytes(static_cast<std::size_t>(st.st_size));
-  std::size_t done = 0;
-  while (done < bytes.size()) {
-    const ssize_t n = ::pread(file.fd, bytes.data() + done, bytes.size() - done, static_cast<off_t>(done));
-    if (n < 0 && errno == EINTR) continue;
-    if (n < 0) {
-      if (failure) *failure = failureFor(path, errno);
-      return nullptr;
-    }
-    if (n == 0) break;  // cut short while reading: keep what is there
-    done += static_cast<std::size_t>(n);
+  return readOpenFile(file.fd, st, path, failure);
+}
+
+std::shared_ptr<const FileData> FileData::readOpenFile(int fd, const struct stat& st, const std::filesystem::path& path,
+                                                       ReadFailure* failure) {
+  auto data = std::make_shared<FileData>(Key{});
+  std::size_t size = 0;
+  if (const int error = readWhole(fd, static_cast<std::size_t>(st.st_size), &data->buffer_, &size)) {
+    if (failure) *failure = failureFor(path, error);
+    return nullptr;
   }
-  bytes.resize(done);
-  return fromBytes(std::move(bytes), FileStamp::ofStat(st));
+  data->stamp_ = FileStamp::ofStat(st);
+  data->data_ = data->buffer_.get();
+  data->size_ = size;
+  return data;
 }
 
 std::shared_ptr<const FileData> FileData::fromBytes(std::vector<std::uint8_t> bytes, std::optional<FileStamp> stamp) {

@@ -1,9 +1,10 @@
 #pragma once
 // The bytes of one opened photo file: a read-only memory mapping held for
-// as long as anyone keeps the object, or (after a save) an owned copy.
+// as long as anyone keeps the object, or an owned copy (a small file, or the
+// bytes written by a save).
 //
-// The mapping is shared and immutable: several readers (the scan, the
-// thumbnail job, the save's copy) may hold it at once from any thread.
+// The bytes are shared and immutable: several readers (the scan, the
+// thumbnail job, the save's copy) may hold them at once from any thread.
 
 #include <cstdint>
 #include <filesystem>
@@ -45,9 +46,13 @@ struct ReadFailure {
 
 class FileData {
  public:
-  // Maps the whole file read-only. An empty file gives an object with no
-  // bytes and no failure; a file that cannot be opened or mapped gives
-  // nullptr and fills *failure when given.
+  // Files up to this size are read into memory instead of mapped.
+  static constexpr std::size_t kReadWholeUpTo = 512 * 1024;
+
+  // Maps the whole file read-only (a small file is read whole instead). An
+  // empty file gives an object with no bytes and no failure; a file that
+  // cannot be opened, read or mapped gives nullptr and fills *failure when
+  // given.
   static std::shared_ptr<const FileData> mapFile(const std::filesystem::path& path, ReadFailure* failure = nullptr);
 
   // Reads the whole file into memory. For work that runs long after the file
@@ -82,10 +87,14 @@ class FileData {
   const std::optional<FileStamp>& stampAsOpened() const { return stamp_; }
 
  private:
+  static std::shared_ptr<const FileData> readOpenFile(int fd, const struct stat& st, const std::filesystem::path& path,
+                                                      ReadFailure* failure);
+
   const std::uint8_t* data_ = nullptr;
   std::size_t size_ = 0;
   void* mapping_ = nullptr;  // non-null when data_ is an mmap of size_ bytes
-  std::vector<std::uint8_t> owned_;
+  std::vector<std::uint8_t> owned_;          // bytes handed in (fromBytes)
+  std::unique_ptr<std::uint8_t[]> buffer_;  // bytes read from the file
   std::optional<FileStamp> stamp_;
 };
 

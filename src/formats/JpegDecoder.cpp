@@ -2,6 +2,7 @@
 #include <turbojpeg.h>
 
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "formats/ImageDecoder.h"
@@ -22,10 +23,14 @@ struct Header {
   int width = 0, height = 0, subsampling = 0, colorspace = 0;
 };
 
-bool readHeader(tjhandle handle, orb::ByteView bytes, Header* header) {
-  if (tjDecompressHeader3(handle, bytes.data(), static_cast<unsigned long>(bytes.size()), &header->width,
-                          &header->height, &header->subsampling, &header->colorspace) == 0)
-    return true;
+// True when the header gives an image; *complained when the decoder
+// reported an error on the way (which can leave its handle unusable).
+bool readHeader(tjhandle handle, orb::ByteView bytes, Header* header, bool* complained = nullptr) {
+  const bool clean = tjDecompressHeader3(handle, bytes.data(), static_cast<unsigned long>(bytes.size()),
+                                         &header->width, &header->height, &header->subsampling,
+                                         &header->colorspace) == 0;
+  if (complained) *complained = !clean;
+  if (clean) return true;
   // TurboJPEG also refuses a header that libjpeg read without complaint
   // when the sampling factors or colour space have no TurboJPEG name; the
   // size is known by then, and such an image is still a real JPEG.
@@ -52,10 +57,18 @@ tjscalingfactor scaleFor(const Header& h, int boxWidth, int boxHeight) {
 }  // namespace
 
 HeaderCheck checkJPEGHeader(orb::ByteView bytes) {
-  const Handle handle = decompressor();
+  // Every opened file is checked: each thread keeps one decompressor rather
+  // than setting one up per file. A refused header can leave it unusable, so
+  // it is replaced after a refusal.
+  thread_local Handle handle;
+  if (!handle) handle = decompressor();
   if (!handle) return {false, 0, 0, "the JPEG decoder could not be started"};
   Header h;
-  if (!readHeader(handle.get(), bytes, &h)) return {false, 0, 0, tjGetErrorStr2(handle.get())};
+  bool complained = false;
+  const bool read = readHeader(handle.get(), bytes, &h, &complained);
+  const std::string message = read ? std::string() : tjGetErrorStr2(handle.get());
+  if (complained) handle.reset();
+  if (!read) return {false, 0, 0, message};
   if (h.width <= 0 || h.height <= 0) return {false, 0, 0, "the JPEG image has no size"};
   return {true, h.width, h.height, {}};
 }

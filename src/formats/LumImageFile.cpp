@@ -4,6 +4,7 @@
 
 #include "core/OrbTiff.h"
 #include "datetime/DateAdditions.h"
+#include "datetime/ExifDateText.h"
 #include "formats/ImageDecoder.h"
 #include "tools/Resizing.h"
 
@@ -50,7 +51,9 @@ std::optional<std::string> validDate(const OrbTiff& tiff, LumDateField field) {
   const OrbDataObject object = entry->dataObject();
   if (!object.isText() || object.text().size() < kDateLength) return std::nullopt;
   std::string cut = object.text().substr(0, kDateLength);
-  if (!DateAdditions::dateWithDateTimeString(cut)) return std::nullopt;
+  // The common form with every field in range is always a date; only other
+  // texts need the general parser, which costs far more per file.
+  if (!ExifDateText::secondsOf(cut) && !DateAdditions::dateWithDateTimeString(cut)) return std::nullopt;
   return cut;
 }
 

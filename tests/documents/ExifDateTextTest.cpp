@@ -1,7 +1,7 @@
 // The quick path for common date texts must agree with the general date
 // parser and calendar arithmetic on every text and offset, including those
 // it hands back to the general path.
-#include "documents/ExifDateText.h"
+#include "datetime/ExifDateText.h"
 
 #include <gtest/gtest.h>
 
@@ -62,6 +62,15 @@ TEST(ExifDateText, ShiftAndRangeCheckAgreeWithTheGeneralPath) {
       EXPECT_EQ(DateTextRules::shiftedDateTimeString(text, o), generalShift(text, o));
       EXPECT_EQ(DateTextRules::shiftLeavesRange(text, o), generalLeavesRange(text, o));
     }
+}
+
+TEST(ExifDateText, EveryTextReadHereIsADateToTheGeneralParser) {
+  // Opening a file takes these texts as dates without asking the parser.
+  for (const std::string& text : sampleTexts()) {
+    if (ExifDateText::secondsOf(text)) {
+      EXPECT_TRUE(DateAdditions::dateWithDateTimeString(text)) << text;
+    }
+  }
 }
 
 TEST(ExifDateText, ReadsOnlyTheCommonFormWithFieldsInRange) {

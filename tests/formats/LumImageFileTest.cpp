@@ -189,4 +189,28 @@ TEST(LumImageFileOpen, UnusualSamplingFactorsStillOpen) {
   EXPECT_TRUE(o.file) << o.error.reason;
 }
 
+TEST(LumImageFileOpen, ARefusedFileDoesNotSpoilTheNextOnTheSameThread) {
+  // The header check reuses its decoder from file to file.
+  Bytes fakeJpeg = {0xFF, 0xD8, 0xFF, 0xE0, 0x00, 0x10, 'J', 'F', 'I', 'F'};
+  fakeJpeg.resize(200, 0x55);
+  lumtest::Bytes unusual = JpegBuilder().build();
+  for (std::size_t sof = 2; sof + 11 < unusual.size(); ++sof)
+    if (unusual[sof] == 0xFF && unusual[sof + 1] == 0xC0) {
+      unusual[sof + 11] = 0x13;
+      break;
+    }
+  const Bytes good = JpegBuilder().build();
+  const Bytes noImage = JpegBuilder().exif(lumtest::exifTiff({}, {})).build(false);
+  // A second start-of-image marker: the decoder refuses it and, left as it
+  // was, refused every later file with the same complaint.
+  const Bytes twoStarts = {0xFF, 0xD8, 0xFF, 0xE1, 0x00, 0x08, 'E', 'x', 'i', 'f', 0, 0, 0xFF, 0xD8, 0xFF, 0xD9};
+  const struct { const char* name; const Bytes& bytes; bool opens; } sequence[] = {
+      {"good", good, true},          {"fake", fakeJpeg, false}, {"good after fake", good, true},
+      {"unusual", unusual, true},    {"good after unusual", good, true},
+      {"no image", noImage, false},  {"good after no image", good, true},
+      {"two starts", twoStarts, false}, {"good after two starts", good, true},
+  };
+  for (const auto& step : sequence) EXPECT_EQ(lumtest::openBytes(step.bytes).file != nullptr, step.opens) << step.name;
+}
+
 }  // namespace

@@ -1,4 +1,4 @@
-#include "documents/ExifDateText.h"
+#include "datetime/ExifDateText.h"
 
 #include <algorithm>
 
