@@ -79,16 +79,20 @@ int readWhole(int fd, std::size_t expected, std::unique_ptr<std::uint8_t[]>* buf
 }  // namespace
 
 std::shared_ptr<const FileData> FileData::mapFile(const std::filesystem::path& path, ReadFailure* failure) {
+  return openFile(path, failure, false);
+}
+
+std::shared_ptr<const FileData> FileData::briefFile(const std::filesystem::path& path, ReadFailure* failure) {
+  return openFile(path, failure, true);
+}
+
+std::shared_ptr<const FileData> FileData::openFile(const std::filesystem::path& path, ReadFailure* failure,
+                                                   bool readSmall) {
   const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
   struct stat st {};
   if (!isOpenRegularFile(file, path, &st, failure)) return nullptr;
   const auto size = static_cast<std::size_t>(st.st_size);
-  if (size <= kReadWholeUpTo) {
-    // Copying a small file costs less than mapping it: every unmapping
-    // interrupts the other cores running this process to flush their address
-    // caches, which dominated listing folders of thousands of small photos.
-    return readOpenFile(file.fd, st, path, failure);
-  }
+  if (size == 0 || (readSmall && size <= kBriefReadUpTo)) return readOpenFile(file.fd, st, path, failure);
   void* mapping = ::mmap(nullptr, size, PROT_READ, MAP_SHARED, file.fd, 0);
   if (mapping == MAP_FAILED) {
     if (failure) *failure = failureFor(path, errno);

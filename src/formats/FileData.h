@@ -1,7 +1,7 @@
 #pragma once
 // The bytes of one opened photo file: a read-only memory mapping held for
-// as long as anyone keeps the object, or an owned copy (a small file, or the
-// bytes written by a save).
+// as long as anyone keeps the object, or an owned copy (a small file read
+// briefly, or bytes handed in).
 //
 // The bytes are shared and immutable: several readers (the scan, the
 // thumbnail job, the save's copy) may hold them at once from any thread.
@@ -46,14 +46,19 @@ struct ReadFailure {
 
 class FileData {
  public:
-  // Files up to this size are read into memory instead of mapped.
-  static constexpr std::size_t kReadWholeUpTo = 512 * 1024;
-
-  // Maps the whole file read-only (a small file is read whole instead). An
-  // empty file gives an object with no bytes and no failure; a file that
-  // cannot be opened, read or mapped gives nullptr and fills *failure when
-  // given.
+  // Maps the whole file read-only. An empty file gives an object with no
+  // bytes and no failure; a file that cannot be opened or mapped gives
+  // nullptr and fills *failure when given.
   static std::shared_ptr<const FileData> mapFile(const std::filesystem::path& path, ReadFailure* failure = nullptr);
+
+  // The same for bytes that are looked at once and let go at once (listing
+  // the dates of a folder): a file up to kBriefReadUpTo is read into memory
+  // instead. Unmapping interrupts every other core running this process to
+  // flush its address caches, which costs more than copying a small file;
+  // a mapping is still cheaper for anything kept, as it holds no memory of
+  // its own.
+  static constexpr std::size_t kBriefReadUpTo = 512 * 1024;
+  static std::shared_ptr<const FileData> briefFile(const std::filesystem::path& path, ReadFailure* failure = nullptr);
 
   // Reads the whole file into memory. For work that runs long after the file
   // was opened (thumbnails, the viewer): another program may have cut the
@@ -87,6 +92,8 @@ class FileData {
   const std::optional<FileStamp>& stampAsOpened() const { return stamp_; }
 
  private:
+  static std::shared_ptr<const FileData> openFile(const std::filesystem::path& path, ReadFailure* failure,
+                                                  bool readSmall);
   static std::shared_ptr<const FileData> readOpenFile(int fd, const struct stat& st, const std::filesystem::path& path,
                                                       ReadFailure* failure);
 

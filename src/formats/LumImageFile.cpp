@@ -68,9 +68,10 @@ LumImageFile::~LumImageFile() {
   operation_.reset();
 }
 
-std::unique_ptr<LumImageFile> LumImageFile::imageFileWithURL(const std::filesystem::path& url, LumError* error) {
+std::unique_ptr<LumImageFile> LumImageFile::imageFileWithURL(const std::filesystem::path& url, LumError* error,
+                                                             Holding holding) {
   lum::ReadFailure failure;
-  auto data = lum::FileData::mapFile(url, &failure);
+  auto data = holding == Holding::Brief ? lum::FileData::briefFile(url, &failure) : lum::FileData::mapFile(url, &failure);
   if (!data || data->empty()) {
     if (error && !data)
       std::fprintf(stderr, "LumImageFile - NSData error %s, %s, %s\n", failure.reason.c_str(),

@@ -7,10 +7,10 @@
 // TIFF, FF D8 a JPEG, and the decoder must accept the image's header. A JPEG
 // without Exif opens too; it simply has no TIFF structure and no dates.
 //
-// The bytes (a read-only mapping, or a copy of a small file) are held for
-// the object's life. Every read of the marker walk and of the JFIF fields is
-// bounded by the file size; a cut or malformed file is taken as having
-// nothing there, never read past.
+// The bytes (a read-only mapping, or a copy of a small file opened briefly)
+// are held for the object's life. Every read of the marker walk and of the
+// JFIF fields is bounded by the file size; a cut or malformed file is taken
+// as having nothing there, never read past.
 
 #include <atomic>
 #include <cstdint>
@@ -64,7 +64,13 @@ class LumImageFile {
   // "LumErrorDomain": -2 for an empty or unreadable file (the read failure is
   // logged to stderr as "LumImageFile - NSData error ..."), -1 for a file
   // that is neither JPEG nor TIFF or that the decoder refuses.
-  static std::unique_ptr<LumImageFile> imageFileWithURL(const std::filesystem::path& url, LumError* error);
+  //
+  // Holding::Brief is for a caller that takes what it needs and lets the
+  // file go at once (listing dates): a small file's bytes are then read
+  // rather than mapped (see lum::FileData::briefFile).
+  enum class Holding { Kept, Brief };
+  static std::unique_ptr<LumImageFile> imageFileWithURL(const std::filesystem::path& url, LumError* error,
+                                                        Holding holding = Holding::Kept);
 
   LumImageFile();
   ~LumImageFile();

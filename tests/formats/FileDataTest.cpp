@@ -1,0 +1,36 @@
+// A file's bytes, mapped or read, are the same bytes with the same stamp.
+#include <gtest/gtest.h>
+
+#include "formats/FileData.h"
+#include "formats/ImageFileTestSupport.h"
+
+namespace {
+
+TEST(FileData, BriefAndMappedOpeningsAgreeAtEverySize) {
+  using lum::FileData;
+  for (const std::size_t size : {std::size_t{0}, std::size_t{1}, std::size_t{4096}, FileData::kBriefReadUpTo,
+                                 FileData::kBriefReadUpTo + 1}) {
+    SCOPED_TRACE(size);
+    lumtest::Bytes bytes(size);
+    for (std::size_t i = 0; i < size; ++i) bytes[i] = static_cast<std::uint8_t>(i * 31 + 7);
+    const lumtest::TempFile temp(bytes);
+    const auto mapped = FileData::mapFile(temp.path());
+    const auto brief = FileData::briefFile(temp.path());
+    const auto read = FileData::readFile(temp.path());
+    ASSERT_TRUE(mapped && brief && read);
+    for (const auto* data : {mapped.get(), brief.get(), read.get()}) {
+      EXPECT_EQ(lumtest::Bytes(data->bytes().data(), data->bytes().data() + data->size()), bytes);
+      EXPECT_EQ(data->stampAsOpened(), lum::FileStamp::of(temp.path()));
+    }
+  }
+}
+
+TEST(FileData, AFolderOrAMissingFileIsAFailureWithAReason) {
+  for (const char* path : {"/", "/nonexistent/lumidate/photo.jpg"}) {
+    lum::ReadFailure failure;
+    EXPECT_EQ(lum::FileData::briefFile(path, &failure), nullptr) << path;
+    EXPECT_FALSE(failure.reason.empty()) << path;
+  }
+}
+
+}  // namespace
