@@ -178,14 +178,21 @@ TEST(LumImageFileThumbnail, AFileCutShortAfterOpeningGivesThePlaceholderNotACras
   EXPECT_EQ(thumb->width, file->errorImage()->width);
 }
 
+// A JPEG whose luma sampling is 1 x 3, which has no TurboJPEG name
+// (libjpeg reads the header all the same).
+Bytes withUnusualSampling() {
+  Bytes bytes = JpegBuilder().build();
+  for (std::size_t sof = 2; sof + 11 < bytes.size(); ++sof)
+    if (bytes[sof] == 0xFF && bytes[sof + 1] == 0xC0) {
+      bytes[sof + 11] = 0x13;  // first component's sampling factors
+      return bytes;
+    }
+  ADD_FAILURE() << "the built JPEG has no SOF0";
+  return bytes;
+}
+
 TEST(LumImageFileOpen, UnusualSamplingFactorsStillOpen) {
-  // 1 x 3 luma sampling has no TurboJPEG name; libjpeg reads the header.
-  lumtest::Bytes bytes = JpegBuilder().build();
-  std::size_t sof = 2;
-  while (sof + 11 < bytes.size() && !(bytes[sof] == 0xFF && bytes[sof + 1] == 0xC0)) ++sof;
-  ASSERT_LT(sof + 11, bytes.size());
-  bytes[sof + 11] = 0x13;  // first component's sampling factors
-  const auto o = lumtest::openBytes(bytes);
+  const auto o = lumtest::openBytes(withUnusualSampling());
   EXPECT_TRUE(o.file) << o.error.reason;
 }
 
@@ -193,12 +200,7 @@ TEST(LumImageFileOpen, ARefusedFileDoesNotSpoilTheNextOnTheSameThread) {
   // The header check reuses its decoder from file to file.
   Bytes fakeJpeg = {0xFF, 0xD8, 0xFF, 0xE0, 0x00, 0x10, 'J', 'F', 'I', 'F'};
   fakeJpeg.resize(200, 0x55);
-  lumtest::Bytes unusual = JpegBuilder().build();
-  for (std::size_t sof = 2; sof + 11 < unusual.size(); ++sof)
-    if (unusual[sof] == 0xFF && unusual[sof + 1] == 0xC0) {
-      unusual[sof + 11] = 0x13;
-      break;
-    }
+  const Bytes unusual = withUnusualSampling();
   const Bytes good = JpegBuilder().build();
   const Bytes noImage = JpegBuilder().exif(lumtest::exifTiff({}, {})).build(false);
   // A second start-of-image marker: the decoder refuses it and, left as it
