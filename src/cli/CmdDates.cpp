@@ -24,7 +24,7 @@ namespace {
 namespace fs = std::filesystem;
 
 // What is printed of one file. Only these texts are kept, not the opened
-// file, so that each file's mapping is released as soon as it has been read:
+// file, so that each file's bytes are released as soon as it has been read:
 // listing a folder of thousands of photos holds no more than a few at once.
 struct Dates {
   std::optional<std::string> original, digitized, edited;
@@ -39,7 +39,7 @@ struct Outcome {
 };
 
 std::optional<Dates> readDates(const fs::path& path, LumError* error) {
-  const std::unique_ptr<LumImageFile> f = LumImageFile::imageFileWithURL(path, error, LumImageFile::Holding::Brief);
+  const std::unique_ptr<LumImageFile> f = LumImageFile::imageFileWithURL(path, error, LumImageFile::Holding::DatesOnly);
   if (!f) return std::nullopt;
   return Dates{f->originalDateTimeOriginalString(),       f->originalDateTimeDigitizedString(),
                f->originalDateTimeString(),               f->originalSubSecDateTimeOriginalString(),

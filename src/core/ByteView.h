@@ -6,6 +6,11 @@
 // (in 64-bit arithmetic that cannot overflow), and answers std::nullopt when
 // the read would leave the block. Numbers are stored big-endian ("MM") or
 // little-endian ("II"); the caller says which.
+//
+// A view may also note its refusals: every read that it, or a view cut from
+// it, refuses sets a flag the caller owns. A scan run over the head of a file
+// uses this to prove that it never wanted a byte past the head, so that its
+// result is the one the whole file would give.
 
 #include <cstddef>
 #include <cstdint>
@@ -21,6 +26,10 @@ class ByteView {
   constexpr ByteView() = default;
   constexpr ByteView(const std::uint8_t* data, std::size_t size) : data_(data), size_(data ? size : 0) {}
   constexpr explicit ByteView(std::span<const std::uint8_t> bytes) : ByteView(bytes.data(), bytes.size()) {}
+  // A view that sets *refused whenever it refuses a read.
+  constexpr ByteView(const std::uint8_t* data, std::size_t size, bool* refused) : ByteView(data, size) {
+    refused_ = refused;
+  }
 
   constexpr std::size_t size() const { return size_; }
   constexpr bool empty() const { return size_ == 0; }
@@ -28,7 +37,9 @@ class ByteView {
 
   // True when [offset, offset + length) lies inside the block.
   constexpr bool contains(std::uint64_t offset, std::uint64_t length) const {
-    return offset <= size_ && length <= size_ - offset;
+    if (offset <= size_ && length <= size_ - offset) return true;
+    if (refused_) *refused_ = true;
+    return false;
   }
 
   constexpr std::optional<std::uint8_t> u8(std::uint64_t offset) const {
@@ -52,12 +63,15 @@ class ByteView {
   }
   constexpr std::optional<ByteView> sub(std::uint64_t offset, std::uint64_t length) const {
     if (!contains(offset, length)) return std::nullopt;
-    return ByteView(data_ + offset, static_cast<std::size_t>(length));
+    return ByteView(data_ + offset, static_cast<std::size_t>(length), refused_);
   }
   // Everything from offset to the end (empty when offset is at or past it).
+  // Where the end lies is itself a fact about the block, so a noting view
+  // counts every tail as a refusal.
   constexpr ByteView tail(std::uint64_t offset) const {
+    if (refused_) *refused_ = true;
     if (offset >= size_) return {};
-    return ByteView(data_ + offset, static_cast<std::size_t>(size_ - offset));
+    return ByteView(data_ + offset, static_cast<std::size_t>(size_ - offset), refused_);
   }
 
  private:
@@ -74,6 +88,7 @@ class ByteView {
 
   const std::uint8_t* data_ = nullptr;
   std::size_t size_ = 0;
+  bool* refused_ = nullptr;  // set on every refusal when given
 };
 
 }  // namespace orb

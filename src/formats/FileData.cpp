@@ -1,5 +1,6 @@
 #include "formats/FileData.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -59,9 +60,10 @@ std::optional<FileStamp> FileStamp::of(const std::filesystem::path& path) {
 
 namespace {
 
-// Reads the whole open file into memory, from its start; a file cut short
-// while it is read gives what was there. Answers 0 or the errno.
-int readWhole(int fd, std::size_t expected, std::unique_ptr<std::uint8_t[]>* buffer, std::size_t* size) {
+// Reads `expected` bytes of the open file into memory, from its start; a
+// file cut short while it is read gives what was there. Answers 0 or the
+// errno.
+int readStart(int fd, std::size_t expected, std::unique_ptr<std::uint8_t[]>* buffer, std::size_t* size) {
   // Not zero-filled first: every byte kept is read from the file.
   *buffer = std::make_unique_for_overwrite<std::uint8_t[]>(expected);
   std::size_t done = 0;
@@ -92,7 +94,7 @@ std::shared_ptr<const FileData> FileData::openFile(const std::filesystem::path& 
   struct stat st {};
   if (!isOpenRegularFile(file, path, &st, failure)) return nullptr;
   const auto size = static_cast<std::size_t>(st.st_size);
-  if (size == 0 || (readSmall && size <= kBriefReadUpTo)) return readOpenFile(file.fd, st, path, failure);
+  if (size == 0 || (readSmall && size <= kBriefReadUpTo)) return readOpenFile(file.fd, st, size, path, failure);
   void* mapping = ::mmap(nullptr, size, PROT_READ, MAP_SHARED, file.fd, 0);
   if (mapping == MAP_FAILED) {
     if (failure) *failure = failureFor(path, errno);
@@ -110,14 +112,23 @@ std::shared_ptr<const FileData> FileData::readFile(const std::filesystem::path& 
   const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
   struct stat st {};
   if (!isOpenRegularFile(file, path, &st, failure)) return nullptr;
-  return readOpenFile(file.fd, st, path, failure);
+  return readOpenFile(file.fd, st, static_cast<std::size_t>(st.st_size), path, failure);
 }
 
-std::shared_ptr<const FileData> FileData::readOpenFile(int fd, const struct stat& st, const std::filesystem::path& path,
-                                                       ReadFailure* failure) {
+std::shared_ptr<const FileData> FileData::readHead(const std::filesystem::path& path, std::size_t length,
+                                                   ReadFailure* failure) {
+  const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
+  struct stat st {};
+  if (!isOpenRegularFile(file, path, &st, failure)) return nullptr;
+  return readOpenFile(file.fd, st, std::min(length, static_cast<std::size_t>(st.st_size)), path, failure);
+}
+
+// Reads the first `length` bytes of the open file.
+std::shared_ptr<const FileData> FileData::readOpenFile(int fd, const struct stat& st, std::size_t length,
+                                                       const std::filesystem::path& path, ReadFailure* failure) {
   auto data = std::make_shared<FileData>(Key{});
   std::size_t size = 0;
-  if (const int error = readWhole(fd, static_cast<std::size_t>(st.st_size), &data->buffer_, &size)) {
+  if (const int error = readStart(fd, length, &data->buffer_, &size)) {
     if (failure) *failure = failureFor(path, error);
     return nullptr;
   }

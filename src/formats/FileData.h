@@ -60,6 +60,12 @@ class FileData {
   static constexpr std::size_t kBriefReadUpTo = 512 * 1024;
   static std::shared_ptr<const FileData> briefFile(const std::filesystem::path& path, ReadFailure* failure = nullptr);
 
+  // Reads at most the first `length` bytes of the file (all of a shorter
+  // one). The stamp still gives the whole file's size. For a listing that
+  // proves what it reads lies in the head, and reads the rest only when not.
+  static std::shared_ptr<const FileData> readHead(const std::filesystem::path& path, std::size_t length,
+                                                  ReadFailure* failure = nullptr);
+
   // Reads the whole file into memory. For work that runs long after the file
   // was opened (thumbnails, the viewer): another program may have cut the
   // file short since, and touching a mapping past the file's new end would
@@ -85,6 +91,8 @@ class FileData {
   orb::ByteView bytes() const { return {data_, size_}; }
   std::uint64_t size() const { return size_; }
   bool empty() const { return size_ == 0; }
+  // False for the head of a longer file (readHead).
+  bool holdsWholeFile() const { return !stamp_ || stamp_->size == size_; }
 
   // Size and modification time of the file when it was mapped (the mapped
   // object's own stat, so it describes exactly these bytes); nullopt for
@@ -94,8 +102,8 @@ class FileData {
  private:
   static std::shared_ptr<const FileData> openFile(const std::filesystem::path& path, ReadFailure* failure,
                                                   bool readSmall);
-  static std::shared_ptr<const FileData> readOpenFile(int fd, const struct stat& st, const std::filesystem::path& path,
-                                                      ReadFailure* failure);
+  static std::shared_ptr<const FileData> readOpenFile(int fd, const struct stat& st, std::size_t length,
+                                                      const std::filesystem::path& path, ReadFailure* failure);
 
   const std::uint8_t* data_ = nullptr;
   std::size_t size_ = 0;

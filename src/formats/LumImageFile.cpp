@@ -71,7 +71,16 @@ LumImageFile::~LumImageFile() {
 std::unique_ptr<LumImageFile> LumImageFile::imageFileWithURL(const std::filesystem::path& url, LumError* error,
                                                              Holding holding) {
   lum::ReadFailure failure;
-  auto data = holding == Holding::Brief ? lum::FileData::briefFile(url, &failure) : lum::FileData::mapFile(url, &failure);
+  std::shared_ptr<const lum::FileData> data;
+  if (holding == Holding::DatesOnly) {
+    data = lum::FileData::readHead(url, kHeadBytes, &failure);
+    if (data && !data->holdsWholeFile()) {
+      if (auto file = fromHead(data)) return file;
+      data = lum::FileData::briefFile(url, &failure);
+    }
+  } else {
+    data = lum::FileData::mapFile(url, &failure);
+  }
   if (!data || data->empty()) {
     if (error && !data)
       std::fprintf(stderr, "LumImageFile - NSData error %s, %s, %s\n", failure.reason.c_str(),
@@ -79,18 +88,48 @@ std::unique_ptr<LumImageFile> LumImageFile::imageFileWithURL(const std::filesyst
     if (error) *error = lumError(-2, data ? "the file is empty" : failure.reason);
     return nullptr;
   }
+  return fromData(std::move(data), error);
+}
+
+std::unique_ptr<LumImageFile> LumImageFile::fromData(std::shared_ptr<const lum::FileData> data, LumError* error) {
   auto file = std::make_unique<LumImageFile>();
   if (!file->searchImageDataAndMakeExifObject(data->bytes(), error)) return nullptr;
-  file->setImageData(std::move(data));
-  // The scan left the header's offset here; it is cleared on purpose. Date
-  // writes take the header location from the TIFF structure instead.
-  file->setTiffHeaderLocation(0);
-  file->setEdit(!file->noDateTimes());
+  file->finishOpening(std::move(data));
   return file;
 }
 
+std::unique_ptr<LumImageFile> LumImageFile::fromHead(const std::shared_ptr<const lum::FileData>& head) {
+  // Every read of the marker walk and of the TIFF structure goes through this
+  // view, so a read it never refused lay inside the head and gave the bytes
+  // the whole file holds there. The decoder's header check reads the bytes
+  // in order up to the first scan; when it accepts, it found all it needed
+  // before the head's end. Bounds that compare with the file's size take the
+  // whole file's size. TIFF files are left to the full path: their
+  // directories may lie anywhere.
+  bool refused = false;
+  const orb::ByteView bytes(head->bytes().data(), head->bytes().size(), &refused);
+  if (ImageDecoder::kindOf(bytes) != ImageDecoder::Kind::JPEG) return nullptr;
+  auto file = std::make_unique<LumImageFile>();
+  // A failure here is not reported: the whole file gives the same one, or
+  // opens when the head was too short to tell.
+  if (!file->scan(bytes, head->stampAsOpened()->size, nullptr) || refused) return nullptr;
+  file->finishOpening(head);
+  return file;
+}
+
+void LumImageFile::finishOpening(std::shared_ptr<const lum::FileData> data) {
+  setImageData(std::move(data));
+  // The scan left the header's offset here; it is cleared on purpose. Date
+  // writes take the header location from the TIFF structure instead.
+  setTiffHeaderLocation(0);
+  setEdit(!noDateTimes());
+}
+
 bool LumImageFile::searchImageDataAndMakeExifObject(orb::ByteView data, LumError* error) {
-  const std::uint64_t fileSize = data.size();
+  return scan(data, data.size(), error);
+}
+
+bool LumImageFile::scan(orb::ByteView data, std::uint64_t fileSize, LumError* error) {
   std::optional<std::uint64_t> headerLocation;
   switch (ImageDecoder::kindOf(data)) {
     case ImageDecoder::Kind::TIFF:

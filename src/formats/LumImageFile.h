@@ -7,8 +7,7 @@
 // TIFF, FF D8 a JPEG, and the decoder must accept the image's header. A JPEG
 // without Exif opens too; it simply has no TIFF structure and no dates.
 //
-// The bytes (a read-only mapping, or a copy of a small file opened briefly)
-// are held for the object's life. Every read of the marker walk and of the
+// The bytes (a read-only mapping, or a copy read for a listing) are held for the object's life. Every read of the marker walk and of the
 // JFIF fields is bounded by the file size; a cut or malformed file is taken
 // as having nothing there, never read past.
 
@@ -65,10 +64,14 @@ class LumImageFile {
   // logged to stderr as "LumImageFile - NSData error ..."), -1 for a file
   // that is neither JPEG nor TIFF or that the decoder refuses.
   //
-  // Holding::Brief is for a caller that takes what it needs and lets the
-  // file go at once (listing dates): a small file's bytes are then read
-  // rather than mapped (see lum::FileData::briefFile).
-  enum class Holding { Kept, Brief };
+  // Holding::DatesOnly is for a caller that reads the dates and lets the
+  // file go at once (listing a folder). A JPEG is then opened from the first
+  // kHeadBytes of the file alone whenever the scan provably found everything
+  // it looked for there; only a file whose scan wanted more is read further.
+  // Such an object's imageData() may be that head, so it serves for its
+  // dates and TIFF structure, never for saving or decoding.
+  enum class Holding { Kept, DatesOnly };
+  static constexpr std::size_t kHeadBytes = 64 * 1024;
   static std::unique_ptr<LumImageFile> imageFileWithURL(const std::filesystem::path& url, LumError* error,
                                                         Holding holding = Holding::Kept);
 
@@ -165,6 +168,13 @@ class LumImageFile {
   void setOperation(CancelFlag operation);
 
  private:
+  static std::unique_ptr<LumImageFile> fromData(std::shared_ptr<const lum::FileData> data, LumError* error);
+  static std::unique_ptr<LumImageFile> fromHead(const std::shared_ptr<const lum::FileData>& head);
+  // The work of searchImageDataAndMakeExifObject(), bounded by the size of
+  // the whole file, which the bytes may only begin.
+  bool scan(orb::ByteView data, std::uint64_t fileSize, LumError* error);
+  void finishOpening(std::shared_ptr<const lum::FileData> data);
+
   std::shared_ptr<const lum::FileData> imageData_;
   std::optional<LumRange> jfifSegmentRange_;
   std::optional<LumRange> exifSegmentRange_;

@@ -32,6 +32,11 @@ TEST(ByteView, RefusesEveryReadThatLeavesTheBlock) {
     SCOPED_TRACE(testing::Message() << c.offset << "+" << c.length);
     EXPECT_EQ(kView.contains(c.offset, c.length), c.inside);
     EXPECT_EQ(kView.bytes(c.offset, c.length).has_value(), c.inside);
+    // A noting view notes exactly the refusals, through its sub-views too.
+    bool refused = false;
+    const ByteView noting(kBytes.data(), kBytes.size(), &refused);
+    EXPECT_EQ(noting.sub(0, 8)->bytes(c.offset, c.length).has_value(), c.inside);
+    EXPECT_EQ(refused, !c.inside);
   }
   EXPECT_FALSE(kView.u16(7));
   EXPECT_FALSE(kView.u32(5));
@@ -48,6 +53,11 @@ TEST(ByteView, SubViewsStayInsideTheirParent) {
   EXPECT_TRUE(kView.tail(8).empty());
   EXPECT_TRUE(kView.tail(100).empty());
   EXPECT_TRUE(ByteView(nullptr, 10).empty());
+  // Where a tail ends depends on the block's size, so a noting view counts
+  // taking one as a refusal.
+  bool refused = false;
+  EXPECT_EQ(ByteView(kBytes.data(), kBytes.size(), &refused).tail(2).size(), 6u);
+  EXPECT_TRUE(refused);
 }
 
 }  // namespace

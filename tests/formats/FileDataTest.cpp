@@ -1,6 +1,8 @@
 // A file's bytes, mapped or read, are the same bytes with the same stamp.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "formats/FileData.h"
 #include "formats/ImageFileTestSupport.h"
 
@@ -25,10 +27,31 @@ TEST(FileData, BriefAndMappedOpeningsAgreeAtEverySize) {
   }
 }
 
+TEST(FileData, AHeadIsTheFileStartWithTheWholeFilesStamp) {
+  using lum::FileData;
+  constexpr std::size_t kHead = 4096;
+  for (const std::size_t size : {std::size_t{0}, std::size_t{1}, kHead, kHead + 1, 10 * kHead}) {
+    SCOPED_TRACE(size);
+    lumtest::Bytes bytes(size);
+    for (std::size_t i = 0; i < size; ++i) bytes[i] = static_cast<std::uint8_t>(i * 13 + 1);
+    const lumtest::TempFile temp(bytes);
+    const auto head = FileData::readHead(temp.path(), kHead);
+    ASSERT_TRUE(head);
+    const std::size_t kept = std::min(size, kHead);
+    EXPECT_EQ(lumtest::Bytes(head->bytes().data(), head->bytes().data() + head->size()),
+              lumtest::Bytes(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(kept)));
+    EXPECT_EQ(head->stampAsOpened(), lum::FileStamp::of(temp.path()));
+    EXPECT_EQ(head->holdsWholeFile(), size <= kHead);
+  }
+}
+
 TEST(FileData, AFolderOrAMissingFileIsAFailureWithAReason) {
   for (const char* path : {"/", "/nonexistent/lumidate/photo.jpg"}) {
     lum::ReadFailure failure;
     EXPECT_EQ(lum::FileData::briefFile(path, &failure), nullptr) << path;
+    EXPECT_FALSE(failure.reason.empty()) << path;
+    failure = {};
+    EXPECT_EQ(lum::FileData::readHead(path, 4096, &failure), nullptr) << path;
     EXPECT_FALSE(failure.reason.empty()) << path;
   }
 }
