@@ -73,11 +73,12 @@ std::unique_ptr<LumImageFile> LumImageFile::imageFileWithURL(const std::filesyst
   lum::ReadFailure failure;
   std::shared_ptr<const lum::FileData> data;
   if (holding == Holding::DatesOnly) {
-    data = lum::FileData::readHead(url, kHeadBytes, &failure);
-    if (data && !data->holdsWholeFile()) {
+    for (const std::size_t length : kHeadBytes) {
+      data = lum::FileData::readHead(url, length, &failure);
+      if (!data || data->holdsWholeFile()) break;
       if (auto file = fromHead(data)) return file;
-      data = lum::FileData::briefFile(url, &failure);
     }
+    if (data && !data->holdsWholeFile()) data = lum::FileData::briefFile(url, &failure);
   } else {
     data = lum::FileData::mapFile(url, &failure);
   }

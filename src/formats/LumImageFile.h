@@ -65,13 +65,16 @@ class LumImageFile {
   // that is neither JPEG nor TIFF or that the decoder refuses.
   //
   // Holding::DatesOnly is for a caller that reads the dates and lets the
-  // file go at once (listing a folder). A JPEG is then opened from the first
-  // kHeadBytes of the file alone whenever the scan provably found everything
-  // it looked for there; only a file whose scan wanted more is read further.
-  // Such an object's imageData() may be that head, so it serves for its
-  // dates and TIFF structure, never for saving or decoding.
+  // file go at once (listing a folder). A JPEG is then opened from the
+  // file's first kHeadBytes[0] bytes alone whenever the scan provably found
+  // everything it looked for there, else from the first kHeadBytes[1]; only
+  // a file whose scan wanted more is read whole. Such an object's
+  // imageData() may be that head, so it serves for its dates and TIFF
+  // structure, never for saving or decoding.
   enum class Holding { Kept, DatesOnly };
-  static constexpr std::size_t kHeadBytes = 64 * 1024;
+  // Most cameras' headers (Exif with its thumbnail, tables, frame header)
+  // fit in the first; those with large maker notes in the second.
+  static constexpr std::size_t kHeadBytes[] = {16 * 1024, 64 * 1024};
   static std::unique_ptr<LumImageFile> imageFileWithURL(const std::filesystem::path& url, LumError* error,
                                                         Holding holding = Holding::Kept);
 

@@ -14,7 +14,8 @@ namespace {
 using lumtest::Bytes;
 using lumtest::JpegBuilder;
 
-constexpr std::size_t kHead = LumImageFile::kHeadBytes;
+constexpr std::size_t kFirstHead = LumImageFile::kHeadBytes[0];
+constexpr std::size_t kHead = LumImageFile::kHeadBytes[1];
 const std::string kDate = "2020:01:02 03:04:05";
 
 Bytes datedExif() {
@@ -62,6 +63,8 @@ TEST(DatesOnlyOpening, AgreesWithOpeningTheWholeFile) {
       {"dates in the head, image data after it", withTrailer(JpegBuilder().jfif(1, 1).exif(datedExif()).build()),
        true},
       {"shorter than the head", JpegBuilder().exif(datedExif()).build(), false},
+      {"headers past the first head but inside the second",
+       withTrailer(JpegBuilder().exif(datedExif()).segment(0xE2, filler(kFirstHead)).build()), true},
       {"a date value stored past the head",
        dateMovedTo(withTrailer(JpegBuilder().exif(datedExif()).build()), kHead + 1000), false},
       {"segments before the image reaching past the head",
