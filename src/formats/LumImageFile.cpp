@@ -6,7 +6,6 @@
 #include "datetime/DateAdditions.h"
 #include "datetime/ExifDateText.h"
 #include "formats/ImageDecoder.h"
-#include "tools/Resizing.h"
 
 namespace {
 
@@ -232,21 +231,4 @@ LumImageFile::CancelFlag LumImageFile::operation() const {
 void LumImageFile::setOperation(CancelFlag operation) {
   std::lock_guard lock(jobMutex_);
   operation_ = std::move(operation);
-}
-
-void LumImageFile::makeThumbnail() {
-  if (thumbnail()) return;
-  const auto url = fileURL();
-  if (!url) return;
-  // Decoded from a copy read now rather than from the mapping made at
-  // opening: the file may have been cut short by another program since, and
-  // the copy costs little next to the decoding.
-  auto data = lum::FileData::readFile(*url);
-  std::shared_ptr<const lum::Bitmap> result;
-  if (data) {
-    const auto box = static_cast<int>(kThumbnailBox);
-    result = Resizing::resizedBitmapFromBitmap(ImageDecoder::decodeForBox(data->bytes(), box, box), false,
-                                               kThumbnailBox, kThumbnailBox);
-  }
-  setThumbnail(result ? result : errorImage());
 }

@@ -164,6 +164,10 @@ class LumImageFile {
   // none and the file has an owner with a path; the placeholder when the
   // image cannot be decoded.
   void makeThumbnail();
+  // The thumbnail of a file's bytes: its own Exif thumbnail when that comes
+  // out at exactly the size the main image would get, else the main image
+  // decoded and reduced; nullptr when neither can be made.
+  static std::shared_ptr<const lum::Bitmap> thumbnailOfBytes(orb::ByteView bytes);
   // The placeholder shown when no thumbnail can be made.
   static std::shared_ptr<const lum::Bitmap> errorImage();
 
