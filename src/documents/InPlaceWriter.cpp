@@ -68,7 +68,7 @@ bool insideFile(const BytePatch& patch, std::uint64_t size) {
   return patch.position <= size && patch.bytes.size() <= size - patch.position;
 }
 
-WriteResult failure(std::string reason) { return {false, std::move(reason)}; }
+WriteResult failure(std::string reason) { return {false, std::move(reason), std::nullopt}; }
 
 }  // namespace
 
@@ -99,7 +99,7 @@ WriteResult writePatches(const std::filesystem::path& path, const FileIdentity& 
     first = std::min(first, p.position);
     end = std::max(end, p.position + p.bytes.size());
   }
-  if (end == 0) return {true, {}};
+  if (end == 0) return {true, {}, lum::FileStamp::ofStat(st)};
 
   // One run from the first changed byte to the last: the bytes in between are
   // the file's own, read now, so they are written back unchanged.
@@ -120,7 +120,10 @@ WriteResult writePatches(const std::filesystem::path& path, const FileIdentity& 
     return failure(systemReason(error));
   }
   if (::fsync(file.fd()) != 0) return failure(systemReason(errno));
-  return {true, {}};
+  // The save has succeeded; a stamp that cannot be read only means the
+  // caller must open the file again to learn it.
+  if (::fstat(file.fd(), &st) != 0) return {true, {}, std::nullopt};
+  return {true, {}, lum::FileStamp::ofStat(st)};
 }
 
 }  // namespace InPlaceWriter

@@ -43,6 +43,8 @@ using WriteFunction = std::function<ssize_t(int fd, const void* buffer, std::siz
 struct WriteResult {
   bool ok = false;
   std::string reason;  // empty on success
+  // On success, the file's stamp once the write reached the disk.
+  std::optional<FileIdentity> stamp;
 };
 
 // Reasons given to the user.

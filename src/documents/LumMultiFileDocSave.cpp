@@ -21,6 +21,7 @@ struct LumMultiFileDoc::SaveJob {
   std::filesystem::path path;
   std::vector<InPlaceWriter::BytePatch> patches;
   std::optional<lum::FileStamp> opened;
+  std::shared_ptr<const lum::FileData> data;  // the bytes the file was opened with
 };
 
 struct LumMultiFileDoc::SaveResult {
@@ -69,12 +70,12 @@ LumMultiFileDoc::SaveResult LumMultiFileDoc::saveOne(const SaveJob& job, const I
   if (!std::filesystem::exists(job.path, error)) return result;  // a missing file has no reason to give
   const InPlaceWriter::WriteResult written =
       job.opened ? InPlaceWriter::writePatches(job.path, *job.opened, job.patches, write)
-                 : InPlaceWriter::WriteResult{false, InPlaceWriter::kChangedOnDiskReason};
+                 : InPlaceWriter::WriteResult{false, InPlaceWriter::kChangedOnDiskReason, std::nullopt};
   result.saved = written.ok;
   result.reason = written.reason;
-  // The saved file is read again, so the model holds what is on disk now (a
-  // fresh mapping, not a copy kept in memory).
-  if (written.ok) result.reread = LumImageFile::imageFileWithURL(job.path, nullptr);
+  // The model then holds what is on disk now: the saved file scanned again,
+  // with the stamp the save left.
+  if (written.ok) result.reread = LumImageFile::imageFileAfterSave(job.path, job.data, written.stamp);
   return result;
 }
 
@@ -127,7 +128,8 @@ bool LumMultiFileDoc::saveFileAll(bool all, bool closeAfterSave, bool quitApp) {
 
   auto jobs = std::make_shared<std::vector<SaveJob>>();
   for (LumFileItemDoc* item : items)
-    jobs->push_back({item, item->path(), item->datePatches(), item->imageFile().stampAsOpened()});
+    jobs->push_back({item, item->path(), item->datePatches(), item->imageFile().stampAsOpened(),
+                     item->imageFile().imageData()});
   saving_ = true;
   emit savingStarted(static_cast<int>(items.size()));
 

@@ -25,22 +25,23 @@ std::vector<std::uint8_t> LumSingleFileDoc::pMakeNewDateWithData(orb::ByteView d
 }
 
 bool LumSingleFileDoc::saveFileAll(bool /*all*/, bool closeAfterSave, bool quitApp) {
-  InPlaceWriter::WriteResult written{false, InPlaceWriter::kMissingReason};
+  InPlaceWriter::WriteResult written{false, InPlaceWriter::kMissingReason, std::nullopt};
   if (imageFile_ && fileURL_) {
     const std::vector<InPlaceWriter::BytePatch> patches =
         DateRewrite::patchesForPickerDates(DateRewrite::locationsOf(*imageFile_), pickerDatesToWrite());
     const std::optional<lum::FileStamp> opened = imageFile_->stampAsOpened();
     written = opened ? InPlaceWriter::writePatches(*fileURL_, *opened, patches, writeFunction_)
-                     : InPlaceWriter::WriteResult{false, InPlaceWriter::kChangedOnDiskReason};
+                     : InPlaceWriter::WriteResult{false, InPlaceWriter::kChangedOnDiskReason, std::nullopt};
   }
 
   SaveOutcome outcome;
   outcome.saved = written.ok;
   if (written.ok) {
     undoStack_.clear();  // clean, and a save cannot be undone
-    // Read the saved file again so the originals, the stamp and the bytes
+    // Scan the saved file again so the originals, the stamp and the bytes
     // are what is on disk now. Should that fail, the old model stays.
-    if (std::unique_ptr<LumImageFile> reread = LumImageFile::imageFileWithURL(*fileURL_, nullptr))
+    if (std::unique_ptr<LumImageFile> reread =
+            LumImageFile::imageFileAfterSave(*fileURL_, imageFile_->imageData(), written.stamp))
       replaceImageFile(std::move(reread));
     outcome.closeDocument = closeAfterSave;
     outcome.continueQuit = quitApp;

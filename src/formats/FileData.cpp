@@ -147,6 +147,16 @@ std::shared_ptr<const FileData> FileData::fromBytes(std::vector<std::uint8_t> by
   return data;
 }
 
+std::shared_ptr<const FileData> FileData::afterInPlaceWrite(std::shared_ptr<const FileData> data, FileStamp stamp) {
+  if (!data || (!data->mapping_ && !data->shared_)) return nullptr;
+  auto restamped = std::make_shared<FileData>(Key{});
+  restamped->stamp_ = stamp;
+  restamped->data_ = data->data_;
+  restamped->size_ = data->size_;
+  restamped->shared_ = data->shared_ ? data->shared_ : std::move(data);
+  return restamped;
+}
+
 FileData::~FileData() {
   if (mapping_) ::munmap(mapping_, size_);
 }

@@ -72,6 +72,13 @@ class FileData {
   // kill the process, whereas a copy read now is always whole.
   static std::shared_ptr<const FileData> readFile(const std::filesystem::path& path, ReadFailure* failure = nullptr);
 
+  // The bytes of a mapped file after the program wrote into it in place,
+  // with the file's new stamp. A write through the file (pwrite) lands in
+  // the very pages the mapping shows, so the mapping already holds the new
+  // bytes; it is shared, not made again. Nullptr when `data` is not a
+  // mapping (a copy would still show the old bytes).
+  static std::shared_ptr<const FileData> afterInPlaceWrite(std::shared_ptr<const FileData> data, FileStamp stamp);
+
   // Holds a copy of bytes already in memory (the bytes written by a save).
   static std::shared_ptr<const FileData> fromBytes(std::vector<std::uint8_t> bytes,
                                                    std::optional<FileStamp> stamp = std::nullopt);
@@ -110,6 +117,7 @@ class FileData {
   void* mapping_ = nullptr;  // non-null when data_ is an mmap of size_ bytes
   std::vector<std::uint8_t> owned_;          // bytes handed in (fromBytes)
   std::unique_ptr<std::uint8_t[]> buffer_;  // bytes read from the file
+  std::shared_ptr<const FileData> shared_;  // the mapping these bytes are shown from
   std::optional<FileStamp> stamp_;
 };
 

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <fstream>
+#include <string>
 
 #include "formats/FileData.h"
 #include "formats/ImageFileTestSupport.h"
@@ -43,6 +45,28 @@ TEST(FileData, AHeadIsTheFileStartWithTheWholeFilesStamp) {
     EXPECT_EQ(head->stampAsOpened(), lum::FileStamp::of(temp.path()));
     EXPECT_EQ(head->holdsWholeFile(), size <= kHead);
   }
+}
+
+TEST(FileData, AMappingShowsAnInPlaceWriteWithTheNewStamp) {
+  using lum::FileData;
+  const lumtest::TempFile temp(lumtest::Bytes(10000, 'a'));
+  const auto mapped = FileData::mapFile(temp.path());
+  ASSERT_TRUE(mapped);
+  {
+    std::fstream file(temp.path(), std::ios::in | std::ios::out | std::ios::binary);
+    file.seekp(5000);
+    file.write("2020:02:29 12:34:56", 19);
+  }
+  const auto stamp = lum::FileStamp::of(temp.path());
+  ASSERT_TRUE(stamp);
+  const auto after = FileData::afterInPlaceWrite(mapped, *stamp);
+  ASSERT_TRUE(after);
+  EXPECT_EQ(after->stampAsOpened(), stamp);
+  const auto text = after->bytes().bytes(5000, 19);
+  ASSERT_TRUE(text);
+  EXPECT_EQ(std::string(text->begin(), text->end()), "2020:02:29 12:34:56");
+  // A copy holds the bytes of the moment it was read: it is refused.
+  EXPECT_EQ(FileData::afterInPlaceWrite(FileData::readFile(temp.path()), *stamp), nullptr);
 }
 
 TEST(FileData, AFolderOrAMissingFileIsAFailureWithAReason) {
