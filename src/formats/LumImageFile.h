@@ -7,9 +7,10 @@
 // TIFF, FF D8 a JPEG, and the decoder must accept the image's header. A JPEG
 // without Exif opens too; it simply has no TIFF structure and no dates.
 //
-// The bytes (a read-only mapping, or a copy read for a listing) are held for the object's life. Every read of the marker walk and of the
-// JFIF fields is bounded by the file size; a cut or malformed file is taken
-// as having nothing there, never read past.
+// The bytes (a read-only mapping, or a copy read for a listing) are held for
+// the object's life. Every read of the marker walk and of the JFIF fields is
+// bounded by the file size; a cut or malformed file is taken as having
+// nothing there, never read past.
 
 #include <atomic>
 #include <cstdint>
