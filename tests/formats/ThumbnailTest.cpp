@@ -4,27 +4,12 @@
 // main images here are black, the embedded thumbnails white.
 #include <gtest/gtest.h>
 
-#include <turbojpeg.h>
-
 #include "formats/ImageFileTestSupport.h"
 
 namespace {
 
 using lumtest::Bytes;
-
-// A w x h grey JPEG of one level.
-Bytes flatJpeg(int width, int height, std::uint8_t level) {
-  const Bytes pixels(static_cast<std::size_t>(width * height), level);
-  tjhandle handle = tjInitCompress();
-  unsigned char* out = nullptr;
-  unsigned long size = 0;
-  const int rc = tjCompress2(handle, pixels.data(), width, 0, height, TJPF_GRAY, &out, &size, TJSAMP_GRAY, 90, 0);
-  Bytes result;
-  if (rc == 0) result.assign(out, out + size);
-  tjFree(out);
-  tjDestroy(handle);
-  return result;
-}
+using lumtest::flatGrayJpeg;
 
 void put16(Bytes& b, std::uint32_t v) {
   b.push_back(static_cast<std::uint8_t>(v));
@@ -58,13 +43,13 @@ Bytes tiffWithThumbnail(const Bytes& thumbnail, std::uint32_t offsetShift = 0) {
 
 Bytes photo(int width, int height, const Bytes& tiff) {
   Bytes out = lumtest::JpegBuilder().exif(tiff).build(false);
-  const Bytes body = lumtest::jpegBody(flatJpeg(width, height, 0));
+  const Bytes body = lumtest::jpegBody(flatGrayJpeg(width, height, 0));
   out.insert(out.end(), body.begin(), body.end());
   return out;
 }
 
 TEST(LumImageFileThumbnail, TheCamerasThumbnailOnlyWhenItGivesTheSameSize) {
-  const Bytes white4x3 = flatJpeg(160, 120, 255);
+  const Bytes white4x3 = flatGrayJpeg(160, 120, 255);
   const struct {
     const char* name;
     Bytes bytes;
@@ -73,7 +58,7 @@ TEST(LumImageFileThumbnail, TheCamerasThumbnailOnlyWhenItGivesTheSameSize) {
   } cases[] = {
       {"same shape, larger than the box", photo(640, 480, tiffWithThumbnail(white4x3)), 150, 113, true},
       {"padded to another shape", photo(600, 400, tiffWithThumbnail(white4x3)), 150, 100, false},
-      {"smaller than the box needs", photo(640, 480, tiffWithThumbnail(flatJpeg(80, 60, 255))), 150, 113, false},
+      {"smaller than the box needs", photo(640, 480, tiffWithThumbnail(flatGrayJpeg(80, 60, 255))), 150, 113, false},
       {"main image already fits the box", photo(100, 75, tiffWithThumbnail(white4x3)), 100, 75, false},
       {"offset past the file's end", photo(640, 480, tiffWithThumbnail(white4x3, 1u << 20)), 150, 113, false},
       {"not a JPEG", photo(640, 480, tiffWithThumbnail(Bytes(500, 0x11))), 150, 113, false},

@@ -21,11 +21,9 @@ namespace lumtest {
 
 using Bytes = std::vector<std::uint8_t>;
 
-// A w x h JPEG as libjpeg-turbo writes it (SOI, its own JFIF APP0, ...).
-inline Bytes encodeJpeg(int width = 16, int height = 8, bool gray = false) {
-  const int channels = gray ? 1 : 3;
-  Bytes pixels(static_cast<std::size_t>(width * height * channels));
-  for (std::size_t i = 0; i < pixels.size(); ++i) pixels[i] = static_cast<std::uint8_t>((i * 37) & 0xFF);
+// Pixels (one byte a pixel when grey, three otherwise) compressed by
+// libjpeg-turbo: SOI, its own JFIF APP0, tables, frame and scan.
+inline Bytes compressPixels(const Bytes& pixels, int width, int height, bool gray) {
   tjhandle handle = tjInitCompress();
   unsigned char* out = nullptr;
   unsigned long size = 0;
@@ -37,6 +35,18 @@ inline Bytes encodeJpeg(int width = 16, int height = 8, bool gray = false) {
   tjDestroy(handle);
   if (rc != 0) throw std::runtime_error("tjCompress2 failed");
   return result;
+}
+
+// A w x h JPEG of a fixed pattern.
+inline Bytes encodeJpeg(int width = 16, int height = 8, bool gray = false) {
+  Bytes pixels(static_cast<std::size_t>(width * height * (gray ? 1 : 3)));
+  for (std::size_t i = 0; i < pixels.size(); ++i) pixels[i] = static_cast<std::uint8_t>((i * 37) & 0xFF);
+  return compressPixels(pixels, width, height, gray);
+}
+
+// A w x h grey JPEG of one level.
+inline Bytes flatGrayJpeg(int width, int height, std::uint8_t level) {
+  return compressPixels(Bytes(static_cast<std::size_t>(width * height), level), width, height, true);
 }
 
 // The encoded image without SOI and without the APPn segments that follow
