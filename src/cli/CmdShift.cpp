@@ -5,8 +5,8 @@
 #include <QTextStream>
 
 #include "cli/CliSupport.h"
-#include "cli/Commands.h"
 #include "cli/DateBatch.h"
+#include "cli/EditingEntry.h"
 
 namespace {
 
@@ -35,18 +35,16 @@ int usage(const QString& message) { return cli::usageError(kUsage, message); }
 
 }  // namespace
 
-namespace cli {
-
-int runShift(const QStringList& args) {
+LUMIDATE_CLI_ENTRY int lumidate_cli_shift(const QStringList& args) {
   QCommandLineParser parser;
   parser.setApplicationDescription("Shifts the dates of photo files forward (or backward) by an offset.");
   parser.addHelpOption();
   parser.addOption({"backward", "Shift back in time instead of forward."});
   for (const char* unit : kUnits) parser.addOption({unit, QString("Number of %1 to shift by.").arg(unit), "N", "0"});
-  addBatchOptions(parser);
-  if (const auto done = parseCommandLine(parser, args, kUsage)) return *done;
+  cli::addBatchOptions(parser);
+  if (const auto done = cli::parseCommandLine(parser, args, kUsage)) return *done;
 
-  DateBatchRequest request;
+  cli::DateBatchRequest request;
   request.mode = parser.isSet("backward") ? LumActionMode::Backward : LumActionMode::Forward;
   bool anyNonZero = false;
   for (std::size_t i = 0; i < kUnits.size(); ++i) {
@@ -63,7 +61,5 @@ int runShift(const QStringList& args) {
     anyNonZero = anyNonZero || value != 0;
   }
   if (!anyNonZero) return usage("give at least one non-zero count (--years ... --seconds)");
-  return runDateBatch(parser, request, kUsage);
+  return cli::runDateBatch(parser, request, kUsage);
 }
-
-}  // namespace cli

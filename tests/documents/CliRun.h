@@ -20,9 +20,11 @@ inline std::string shellQuoted(const std::string& text) {
   return quoted + "'";
 }
 
-// command is appended to the tool's path as it stands (quote paths yourself).
-inline CliResult runCli(const std::string& arguments, const std::string& environment = "") {
-  const std::string command = environment + " " + shellQuoted(LUMIDATE_CLI) + " " + arguments + " 2>&1";
+// arguments are appended to the tool's path as they stand (quote paths
+// yourself); program is the built tool unless a test runs a copy of it.
+inline CliResult runCli(const std::string& arguments, const std::string& environment = "",
+                        const std::string& program = LUMIDATE_CLI) {
+  const std::string command = environment + " " + shellQuoted(program) + " " + arguments + " 2>&1";
   CliResult result;
   FILE* pipe = ::popen(command.c_str(), "r");
   if (!pipe) return result;

@@ -108,4 +108,26 @@ TEST_F(CliFixture, AFileThatCannotBeSavedGivesExitOneAndTheOthersAreSaved) {
   EXPECT_EQ(datesOf(a)[0], kA);
 }
 
+// The program alone, without the part that edits files beside it, still
+// lists dates, and refuses to edit with a message that names the part.
+TEST_F(CliFixture, WithoutItsEditingPartTheProgramListsDatesAndEditsNothing) {
+  TempFolder bin;
+  const std::filesystem::path alone = bin.path() / "lumidate-cli";
+  std::filesystem::copy_file(LUMIDATE_CLI, alone);
+  const auto before = readBytes(a);
+
+  const CliResult dates = runCli("dates " + q(a), "", alone.string());
+  EXPECT_EQ(dates.status, 0) << dates.output;
+  EXPECT_NE(dates.output.find(kA), std::string::npos) << dates.output;
+
+  for (const std::string args : {"shift --hours 1 ", "set --to '2000:02:29 12:34:56' "}) {
+    const CliResult r = runCli(args + q(a), "", alone.string());
+    EXPECT_EQ(r.status, 1) << r.output;
+    EXPECT_NE(r.output.find("cannot load the part that edits files (lumidate-cli-editing.so is not installed"),
+              std::string::npos)
+        << r.output;
+  }
+  EXPECT_EQ(readBytes(a), before);
+}
+
 }  // namespace
