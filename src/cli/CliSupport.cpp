@@ -1,6 +1,7 @@
 #include "cli/CliSupport.h"
 
 #include <QTextStream>
+#include <unistd.h>
 
 #include <algorithm>
 #include <atomic>
@@ -49,6 +50,15 @@ void reportOpenFailure(const std::filesystem::path& path, const LumError& error)
       << error.code;
   if (!error.reason.empty()) err << ", " << QString::fromStdString(error.reason);
   err << ")\n";
+}
+
+int finishNow(int status) {
+#if defined(__SANITIZE_ADDRESS__)
+  return status;
+#else
+  std::fflush(nullptr);
+  ::_exit(status);
+#endif
 }
 
 void printJson(const nlohmann::ordered_json& value) {

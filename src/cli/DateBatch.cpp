@@ -165,7 +165,8 @@ int runDateBatch(const DateBatchRequest& request) {
   const std::size_t edited = doc.editedFileCount();
   if (request.dryRun) {
     QTextStream(stdout) << edited << (edited == 1 ? " file" : " files") << " would change (dry run, nothing written)\n";
-    return status;
+    err.flush();  // finishNow runs no destructor, this stream's included
+    return finishNow(status);
   }
 
   const LumSaveOutcome outcome = saveAll(doc);
@@ -177,7 +178,8 @@ int runDateBatch(const DateBatchRequest& request) {
   }
   QTextStream(stdout) << (outcome.total - outcome.failures.size()) << " of " << outcome.total
                       << (outcome.total == 1 ? " file" : " files") << " saved\n";
-  return outcome.failures.empty() ? status : 1;
+  err.flush();
+  return finishNow(outcome.failures.empty() ? status : 1);
 }
 
 }  // namespace cli
