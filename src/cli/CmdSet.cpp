@@ -4,8 +4,8 @@
 #include <QTextStream>
 
 #include "cli/CliSupport.h"
+#include "cli/Commands.h"
 #include "cli/DateBatch.h"
-#include "cli/EditingEntry.h"
 #include "documents/DateTextRules.h"
 
 namespace {
@@ -43,19 +43,23 @@ std::optional<std::array<long, 6>> parseTime(const QString& text) {
 
 }  // namespace
 
-LUMIDATE_CLI_ENTRY int lumidate_cli_set(const QStringList& args) {
+namespace cli {
+
+int runSet(const QStringList& args) {
   QCommandLineParser parser;
   parser.setApplicationDescription("Sets the dates of photo files to one date and time.");
   parser.addHelpOption();
   parser.addOption({"to", "The date and time to set, exactly \"yyyy:MM:dd HH:mm:ss\".", "TIME"});
-  cli::addBatchOptions(parser);
-  if (const auto done = cli::parseCommandLine(parser, args, kUsage)) return *done;
+  addBatchOptions(parser);
+  if (const auto done = parseCommandLine(parser, args, kUsage)) return *done;
   if (!parser.isSet("to")) return usage("--to is required");
   const std::optional<std::array<long, 6>> fields = parseTime(parser.value("to"));
   if (!fields) return usage("--to takes a real date and time as \"yyyy:MM:dd HH:mm:ss\", not '" + parser.value("to") + "'");
 
-  cli::DateBatchRequest request;
+  DateBatchRequest request;
   request.mode = LumActionMode::SetTime;
   request.fields = *fields;
-  return cli::runDateBatch(parser, request, kUsage);
+  return runDateBatch(parser, request, kUsage);
 }
+
+}  // namespace cli

@@ -5,8 +5,8 @@
 #include <QTextStream>
 
 #include "cli/CliSupport.h"
+#include "cli/Commands.h"
 #include "cli/DateBatch.h"
-#include "cli/EditingEntry.h"
 
 namespace {
 
@@ -35,16 +35,18 @@ int usage(const QString& message) { return cli::usageError(kUsage, message); }
 
 }  // namespace
 
-LUMIDATE_CLI_ENTRY int lumidate_cli_shift(const QStringList& args) {
+namespace cli {
+
+int runShift(const QStringList& args) {
   QCommandLineParser parser;
   parser.setApplicationDescription("Shifts the dates of photo files forward (or backward) by an offset.");
   parser.addHelpOption();
   parser.addOption({"backward", "Shift back in time instead of forward."});
   for (const char* unit : kUnits) parser.addOption({unit, QString("Number of %1 to shift by.").arg(unit), "N", "0"});
-  cli::addBatchOptions(parser);
-  if (const auto done = cli::parseCommandLine(parser, args, kUsage)) return *done;
+  addBatchOptions(parser);
+  if (const auto done = parseCommandLine(parser, args, kUsage)) return *done;
 
-  cli::DateBatchRequest request;
+  DateBatchRequest request;
   request.mode = parser.isSet("backward") ? LumActionMode::Backward : LumActionMode::Forward;
   bool anyNonZero = false;
   for (std::size_t i = 0; i < kUnits.size(); ++i) {
@@ -61,5 +63,7 @@ LUMIDATE_CLI_ENTRY int lumidate_cli_shift(const QStringList& args) {
     anyNonZero = anyNonZero || value != 0;
   }
   if (!anyNonZero) return usage("give at least one non-zero count (--years ... --seconds)");
-  return cli::runDateBatch(parser, request, kUsage);
+  return runDateBatch(parser, request, kUsage);
 }
+
+}  // namespace cli

@@ -2,6 +2,7 @@
 // their expected records, folder expansion and order, exit statuses.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -85,6 +86,23 @@ TEST_F(CmdDatesFolder, PlainOutputIsOneAlignedLinePerFile) {
   ASSERT_NE(dateColumn, std::string::npos);
   EXPECT_EQ(lines[2].find("2024:05:06 07:08:09"), dateColumn);
   EXPECT_EQ(lines[0].substr(dateColumn, 2), "- ");  // no date: a dash in the same column
+}
+
+// Columns line up on screen: a path with accented letters is padded by its
+// characters, not its bytes.
+TEST_F(CmdDatesFolder, PlainColumnsCountCharactersNotBytes) {
+  fs::copy_file(root_ / "img10.jpg", root_ / "sub" / "caf\u00e9-\u00e9t\u00e9.jpg");
+  const auto run = runDates(quoted(root_ / "sub"));
+  EXPECT_EQ(run.status, 0);
+  const auto lineBreak = run.out.find('\n');
+  ASSERT_NE(lineBreak, std::string::npos);
+  const std::string first = run.out.substr(0, lineBreak), second = run.out.substr(lineBreak + 1);
+  const auto charactersBefore = [](const std::string& line) {
+    const std::string prefix = line.substr(0, line.find("2024:05:06"));
+    return std::count_if(prefix.begin(), prefix.end(), [](char c) { return (c & 0xC0) != 0x80; });
+  };
+  EXPECT_EQ(charactersBefore(first), charactersBefore(second)) << run.out;
+  EXPECT_NE(first.find("2024:05:06"), second.find("2024:05:06"));  // the bytes differ
 }
 
 TEST(CmdDatesUsage, StatusTwoOnUsageErrorsAndOneForUnreadablePaths) {

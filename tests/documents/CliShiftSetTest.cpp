@@ -108,9 +108,9 @@ TEST_F(CliFixture, AFileThatCannotBeSavedGivesExitOneAndTheOthersAreSaved) {
   EXPECT_EQ(datesOf(a)[0], kA);
 }
 
-// The program alone, without the part that edits files beside it, still
-// lists dates, and refuses to edit with a message that names the part.
-TEST_F(CliFixture, WithoutItsEditingPartTheProgramListsDatesAndEditsNothing) {
+// The program alone, without its commands part beside it, still lists
+// dates, and for anything else says which part is missing.
+TEST_F(CliFixture, WithoutItsCommandsPartTheProgramListsDatesAndEditsNothing) {
   TempFolder bin;
   const std::filesystem::path alone = bin.path() / "lumidate-cli";
   std::filesystem::copy_file(LUMIDATE_CLI, alone);
@@ -120,11 +120,10 @@ TEST_F(CliFixture, WithoutItsEditingPartTheProgramListsDatesAndEditsNothing) {
   EXPECT_EQ(dates.status, 0) << dates.output;
   EXPECT_NE(dates.output.find(kA), std::string::npos) << dates.output;
 
-  for (const std::string args : {"shift --hours 1 ", "set --to '2000:02:29 12:34:56' "}) {
+  for (const std::string args : {"shift --hours 1 ", "set --to '2000:02:29 12:34:56' ", "dates --help "}) {
     const CliResult r = runCli(args + q(a), "", alone.string());
     EXPECT_EQ(r.status, 1) << r.output;
-    EXPECT_NE(r.output.find("cannot load the part that edits files (lumidate-cli-editing.so is not installed"),
-              std::string::npos)
+    EXPECT_NE(r.output.find("cannot load its commands (lumidate-cli-commands.so is not installed"), std::string::npos)
         << r.output;
   }
   EXPECT_EQ(readBytes(a), before);
