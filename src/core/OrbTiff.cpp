@@ -17,14 +17,18 @@ constexpr std::uint16_t kGPSVersionTag = 0x0000;
 // ---- parsing ----
 
 std::unique_ptr<OrbTiff> OrbTiff::exifWithPtr(orb::ByteView block, const std::uint64_t* location,
-                                              std::uint64_t maxLocation) {
+                                              std::uint64_t maxLocation, std::vector<std::string>* consoleLines) {
   const std::uint64_t header = location ? *location : 0;
   auto tiff = std::make_unique<OrbTiff>();
-  if (!tiff->pSearchDataIFDByIFD(block, header, maxLocation)) return nullptr;
+  std::vector<std::string> lines;
+  const bool parsed = tiff->pSearchDataIFDByIFD(block, header, maxLocation, consoleLines ? consoleLines : &lines);
+  for (const std::string& line : lines) std::fprintf(stderr, "%s\n", line.c_str());
+  if (!parsed) return nullptr;
   return tiff;
 }
 
-bool OrbTiff::pSearchDataIFDByIFD(orb::ByteView block, std::uint64_t location, std::uint64_t maxLocation) {
+bool OrbTiff::pSearchDataIFDByIFD(orb::ByteView block, std::uint64_t location, std::uint64_t maxLocation,
+                                  std::vector<std::string>* consoleLines) {
   tiffHeaderLocation_ = location;
   std::uint64_t pos = location;
   std::uint16_t mark = 0;
@@ -76,7 +80,8 @@ bool OrbTiff::pSearchDataIFDByIFD(orb::ByteView block, std::uint64_t location, s
     // The next offset is relative to the header while the limit is absolute;
     // the comparison keeps them that way on purpose.
     if (next >= maxLocation) {
-      std::fprintf(stderr, "nextIFDLocation: (%u) maxLocation:(%lu)\n", next, static_cast<unsigned long>(maxLocation));
+      consoleLines->push_back("nextIFDLocation: (" + std::to_string(next) + ") maxLocation:(" +
+                              std::to_string(maxLocation) + ")");
       return true;
     }
     if (next == 0) return true;

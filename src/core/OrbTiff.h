@@ -24,6 +24,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <string>
 #include <vector>
 
 #include "core/ByteView.h"
@@ -42,8 +43,13 @@ class OrbTiff {
   // Parses the structure whose header starts at *location (0 when null) in
   // block; maxLocation is the limit the IFDs must respect (normally the
   // block's size). nullptr when the header is not a TIFF header.
+  //
+  // A walk that ends on a next-IFD offset past the limit says so on the
+  // console. With consoleLines given, that line is added there instead, for
+  // a caller that prints it only once it knows this parse is the one kept.
   static std::unique_ptr<OrbTiff> exifWithPtr(orb::ByteView block, const std::uint64_t* location,
-                                              std::uint64_t maxLocation);
+                                              std::uint64_t maxLocation,
+                                              std::vector<std::string>* consoleLines = nullptr);
   static std::unique_ptr<OrbTiff> exifWithPtr(std::span<const std::uint8_t> block, const std::uint64_t* location,
                                               std::uint64_t maxLocation) {
     return exifWithPtr(orb::ByteView(block), location, maxLocation);
@@ -113,7 +119,8 @@ class OrbTiff {
   static std::span<const std::uint16_t> imageStructureTags();
 
  private:
-  bool pSearchDataIFDByIFD(orb::ByteView block, std::uint64_t location, std::uint64_t maxLocation);
+  bool pSearchDataIFDByIFD(orb::ByteView block, std::uint64_t location, std::uint64_t maxLocation,
+                           std::vector<std::string>* consoleLines);
   std::optional<OrbIFDMap> pGetIFDEntries(orb::ByteView block, std::uint32_t ifdID, std::uint32_t* nextIFDLocation,
                                           std::uint64_t maxLocation) const;
   OrbIFDMap* mutableEntriesAtIndex(std::size_t index);

@@ -95,7 +95,31 @@ std::shared_ptr<const FileData> FileData::openFile(const std::filesystem::path& 
   if (!isOpenRegularFile(file, path, &st, failure)) return nullptr;
   const auto size = static_cast<std::size_t>(st.st_size);
   if (size == 0 || (readSmall && size <= kBriefReadUpTo)) return readOpenFile(file.fd, st, size, path, failure);
-  void* mapping = ::mmap(nullptr, size, PROT_READ, MAP_SHARED, file.fd, 0);
+  return mapOpenFile(file.fd, st, path, failure);
+}
+
+FileData::MappedWithHead FileData::mapFileWithHead(const std::filesystem::path& path, std::size_t headLength,
+                                                   ReadFailure* failure) {
+  const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
+  struct stat st {};
+  if (!isOpenRegularFile(file, path, &st, failure)) return {};
+  const auto size = static_cast<std::size_t>(st.st_size);
+  if (size == 0) {
+    auto empty = readOpenFile(file.fd, st, 0, path, failure);
+    return {empty, empty};
+  }
+  auto head = readOpenFile(file.fd, st, std::min(headLength, size), path, failure);
+  if (!head) return {};
+  auto whole = mapOpenFile(file.fd, st, path, failure);
+  if (!whole) return {};
+  return {std::move(whole), std::move(head)};
+}
+
+// Maps the whole of the open, non-empty file read-only.
+std::shared_ptr<const FileData> FileData::mapOpenFile(int fd, const struct stat& st,
+                                                      const std::filesystem::path& path, ReadFailure* failure) {
+  const auto size = static_cast<std::size_t>(st.st_size);
+  void* mapping = ::mmap(nullptr, size, PROT_READ, MAP_SHARED, fd, 0);
   if (mapping == MAP_FAILED) {
     if (failure) *failure = failureFor(path, errno);
     return nullptr;

@@ -51,6 +51,19 @@ class FileData {
   // nullptr and fills *failure when given.
   static std::shared_ptr<const FileData> mapFile(const std::filesystem::path& path, ReadFailure* failure = nullptr);
 
+  // A mapping of the whole file together with a copy of its first
+  // `headLength` bytes, read through the same descriptor, so that both show
+  // the same file. Parsing the copy spares the page faults that the first
+  // touch of each fresh mapping costs (most of the time to open a file that
+  // is already in memory); the mapping is still kept for everything after.
+  // For an empty file both are empty; on failure both are null.
+  struct MappedWithHead {
+    std::shared_ptr<const FileData> whole;
+    std::shared_ptr<const FileData> head;
+  };
+  static MappedWithHead mapFileWithHead(const std::filesystem::path& path, std::size_t headLength,
+                                        ReadFailure* failure = nullptr);
+
   // The same for bytes that are looked at once and let go at once (listing
   // the dates of a folder): a file up to kBriefReadUpTo is read into memory
   // instead. Unmapping interrupts every other core running this process to
@@ -109,6 +122,8 @@ class FileData {
  private:
   static std::shared_ptr<const FileData> openFile(const std::filesystem::path& path, ReadFailure* failure,
                                                   bool readSmall);
+  static std::shared_ptr<const FileData> mapOpenFile(int fd, const struct stat& st, const std::filesystem::path& path,
+                                                     ReadFailure* failure);
   static std::shared_ptr<const FileData> readOpenFile(int fd, const struct stat& st, std::size_t length,
                                                       const std::filesystem::path& path, ReadFailure* failure);
 

@@ -75,11 +75,14 @@ std::unique_ptr<LumImageFile> LumImageFile::imageFileWithURL(const std::filesyst
     for (const std::size_t length : kHeadBytes) {
       data = lum::FileData::readHead(url, length, &failure);
       if (!data || data->holdsWholeFile()) break;
-      if (auto file = fromHead(data)) return file;
+      if (auto file = fromHead(data, data)) return file;
     }
     if (data && !data->holdsWholeFile()) data = lum::FileData::briefFile(url, &failure);
   } else {
-    data = lum::FileData::mapFile(url, &failure);
+    auto [whole, head] = lum::FileData::mapFileWithHead(url, kHeadBytes[0], &failure);
+    if (whole && !whole->empty())
+      if (auto file = fromHead(head, whole)) return file;
+    data = std::move(whole);
   }
   if (!data || data->empty()) {
     if (error && !data)
@@ -109,7 +112,8 @@ std::unique_ptr<LumImageFile> LumImageFile::fromData(std::shared_ptr<const lum::
   return file;
 }
 
-std::unique_ptr<LumImageFile> LumImageFile::fromHead(const std::shared_ptr<const lum::FileData>& head) {
+std::unique_ptr<LumImageFile> LumImageFile::fromHead(const std::shared_ptr<const lum::FileData>& head,
+                                                    std::shared_ptr<const lum::FileData> keep) {
   // Every read of the marker walk and of the TIFF structure goes through this
   // view, so a read it never refused lay inside the head and gave the bytes
   // the whole file holds there. The decoder's header check reads the bytes
@@ -122,9 +126,12 @@ std::unique_ptr<LumImageFile> LumImageFile::fromHead(const std::shared_ptr<const
   if (ImageDecoder::kindOf(bytes) != ImageDecoder::Kind::JPEG) return nullptr;
   auto file = std::make_unique<LumImageFile>();
   // A failure here is not reported: the whole file gives the same one, or
-  // opens when the head was too short to tell.
-  if (!file->scan(bytes, head->stampAsOpened()->size, nullptr) || refused) return nullptr;
-  file->finishOpening(head);
+  // opens when the head was too short to tell. Console lines wait for the
+  // same reason: they are printed by the parse that is kept.
+  std::vector<std::string> consoleLines;
+  if (!file->scan(bytes, head->stampAsOpened()->size, nullptr, &consoleLines) || refused) return nullptr;
+  for (const std::string& line : consoleLines) std::fprintf(stderr, "%s\n", line.c_str());
+  file->finishOpening(std::move(keep));
   return file;
 }
 
@@ -140,7 +147,8 @@ bool LumImageFile::searchImageDataAndMakeExifObject(orb::ByteView data, LumError
   return scan(data, data.size(), error);
 }
 
-bool LumImageFile::scan(orb::ByteView data, std::uint64_t fileSize, LumError* error) {
+bool LumImageFile::scan(orb::ByteView data, std::uint64_t fileSize, LumError* error,
+                        std::vector<std::string>* consoleLines) {
   std::optional<std::uint64_t> headerLocation;
   switch (ImageDecoder::kindOf(data)) {
     case ImageDecoder::Kind::TIFF:
@@ -164,7 +172,7 @@ bool LumImageFile::scan(orb::ByteView data, std::uint64_t fileSize, LumError* er
   }
   if (headerLocation) {
     const std::uint64_t location = *headerLocation;
-    tiff_ = OrbTiff::exifWithPtr(data, &location, fileSize);
+    tiff_ = OrbTiff::exifWithPtr(data, &location, fileSize, consoleLines);
   }
   return true;
 }

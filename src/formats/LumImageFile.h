@@ -185,10 +185,16 @@ class LumImageFile {
 
  private:
   static std::unique_ptr<LumImageFile> fromData(std::shared_ptr<const lum::FileData> data, LumError* error);
-  static std::unique_ptr<LumImageFile> fromHead(const std::shared_ptr<const lum::FileData>& head);
+  // Opens from the head of a JPEG when its scan provably found all it
+  // needed there, keeping `keep` (the head itself, or the whole file's
+  // mapping); nullptr otherwise.
+  static std::unique_ptr<LumImageFile> fromHead(const std::shared_ptr<const lum::FileData>& head,
+                                                std::shared_ptr<const lum::FileData> keep);
   // The work of searchImageDataAndMakeExifObject(), bounded by the size of
-  // the whole file, which the bytes may only begin.
-  bool scan(orb::ByteView data, std::uint64_t fileSize, LumError* error);
+  // the whole file, which the bytes may only begin. Console lines of the
+  // TIFF parse go to consoleLines when given (see OrbTiff::exifWithPtr).
+  bool scan(orb::ByteView data, std::uint64_t fileSize, LumError* error,
+            std::vector<std::string>* consoleLines = nullptr);
   void finishOpening(std::shared_ptr<const lum::FileData> data);
 
   std::shared_ptr<const lum::FileData> imageData_;

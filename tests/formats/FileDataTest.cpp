@@ -37,13 +37,20 @@ TEST(FileData, AHeadIsTheFileStartWithTheWholeFilesStamp) {
     lumtest::Bytes bytes(size);
     for (std::size_t i = 0; i < size; ++i) bytes[i] = static_cast<std::uint8_t>(i * 13 + 1);
     const lumtest::TempFile temp(bytes);
-    const auto head = FileData::readHead(temp.path(), kHead);
-    ASSERT_TRUE(head);
-    const std::size_t kept = std::min(size, kHead);
-    EXPECT_EQ(lumtest::Bytes(head->bytes().data(), head->bytes().data() + head->size()),
-              lumtest::Bytes(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(kept)));
-    EXPECT_EQ(head->stampAsOpened(), lum::FileStamp::of(temp.path()));
-    EXPECT_EQ(head->holdsWholeFile(), size <= kHead);
+    const auto [whole, headOfMapped] = FileData::mapFileWithHead(temp.path(), kHead);
+    ASSERT_TRUE(whole && headOfMapped);
+    EXPECT_EQ(lumtest::Bytes(whole->bytes().data(), whole->bytes().data() + whole->size()), bytes);
+    EXPECT_EQ(whole->stampAsOpened(), lum::FileStamp::of(temp.path()));
+    // The whole file is a mapping (which alone shows a later in-place write).
+    EXPECT_EQ(FileData::afterInPlaceWrite(whole, *whole->stampAsOpened()) != nullptr, size > 0);
+    for (const auto& head : {FileData::readHead(temp.path(), kHead), headOfMapped}) {
+      ASSERT_TRUE(head);
+      const std::size_t kept = std::min(size, kHead);
+      EXPECT_EQ(lumtest::Bytes(head->bytes().data(), head->bytes().data() + head->size()),
+                lumtest::Bytes(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(kept)));
+      EXPECT_EQ(head->stampAsOpened(), lum::FileStamp::of(temp.path()));
+      EXPECT_EQ(head->holdsWholeFile(), size <= kHead);
+    }
   }
 }
 
@@ -76,6 +83,10 @@ TEST(FileData, AFolderOrAMissingFileIsAFailureWithAReason) {
     EXPECT_FALSE(failure.reason.empty()) << path;
     failure = {};
     EXPECT_EQ(lum::FileData::readHead(path, 4096, &failure), nullptr) << path;
+    EXPECT_FALSE(failure.reason.empty()) << path;
+    failure = {};
+    const auto [whole, head] = lum::FileData::mapFileWithHead(path, 4096, &failure);
+    EXPECT_TRUE(!whole && !head) << path;
     EXPECT_FALSE(failure.reason.empty()) << path;
   }
 }
