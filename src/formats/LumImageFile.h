@@ -72,6 +72,10 @@ class LumImageFile {
   // a file whose scan wanted more is read whole. Such an object's
   // imageData() may be that head, so it serves for its dates and TIFF
   // structure, never for saving or decoding.
+  //
+  // Holding::Kept (a document) always keeps a mapping of the whole file, but
+  // a JPEG is parsed from a copy of its first kHeadBytes[0] bytes when that
+  // provably suffices, so that opening does not fault in the mapping's pages.
   enum class Holding { Kept, DatesOnly };
   // Most cameras' headers (Exif with its thumbnail, tables, frame header)
   // fit in the first; those with large maker notes in the second.

@@ -6,23 +6,25 @@
 #include <filesystem>
 #include <fstream>
 
-#include "CliRun.h"
+#include "support/CliRun.h"
 #include "support/JpegBuilder.h"
 #include "support/TestData.h"
 
 namespace fs = std::filesystem;
 using nlohmann::json;
-using clitest::quoted;
+using lumtest::shellQuoted;
 
 namespace {
 
-clitest::CliRun runDates(const std::string& arguments) { return clitest::runCli("dates " + arguments); }
+lumtest::CliRun runDates(const std::string& arguments) {
+  return lumtest::runCliStdout("dates " + arguments);
+}
 
 TEST(CmdDates, JsonOverTheRealFilesMatchesTheExpectedRecords) {
   LUMTEST_REQUIRE_REAL_DATA();
   const fs::path dir = *lumtest::realDataDir();
   // The folder twice and one of its files again: each file is listed once.
-  const auto run = runDates("--json " + quoted(dir) + " " + quoted(dir) + " " + quoted(dir / "canon-ixus-2001.jpg"));
+  const auto run = runDates("--json " + shellQuoted(dir) + " " + shellQuoted(dir) + " " + shellQuoted(dir / "canon-ixus-2001.jpg"));
   EXPECT_EQ(run.status, 1);  // some real files do not open
   const json array = json::parse(run.out);
   ASSERT_TRUE(array.is_array());
@@ -65,7 +67,7 @@ class CmdDatesFolder : public ::testing::Test {
 };
 
 TEST_F(CmdDatesFolder, ListsPhotosInFileManagerOrder) {
-  const auto run = runDates("--json " + quoted(root_));
+  const auto run = runDates("--json " + shellQuoted(root_));
   EXPECT_EQ(run.status, 0);
   const json array = json::parse(run.out);
   ASSERT_EQ(array.size(), 3u);
@@ -76,7 +78,7 @@ TEST_F(CmdDatesFolder, ListsPhotosInFileManagerOrder) {
 }
 
 TEST_F(CmdDatesFolder, PlainOutputIsOneAlignedLinePerFile) {
-  const auto run = runDates(quoted(root_));
+  const auto run = runDates(shellQuoted(root_));
   EXPECT_EQ(run.status, 0);
   std::vector<std::string> lines;
   for (std::size_t from = 0, to; (to = run.out.find('\n', from)) != std::string::npos; from = to + 1)
@@ -92,7 +94,7 @@ TEST_F(CmdDatesFolder, PlainOutputIsOneAlignedLinePerFile) {
 // characters, not its bytes.
 TEST_F(CmdDatesFolder, PlainColumnsCountCharactersNotBytes) {
   fs::copy_file(root_ / "img10.jpg", root_ / "sub" / "caf\u00e9-\u00e9t\u00e9.jpg");
-  const auto run = runDates(quoted(root_ / "sub"));
+  const auto run = runDates(shellQuoted(root_ / "sub"));
   EXPECT_EQ(run.status, 0);
   const auto lineBreak = run.out.find('\n');
   ASSERT_NE(lineBreak, std::string::npos);

@@ -1,7 +1,7 @@
 // lumidate-cli days, run as a program.
 #include <gtest/gtest.h>
 
-#include "CliRun.h"
+#include "support/CliRun.h"
 
 namespace {
 
@@ -23,7 +23,7 @@ TEST(CliDays, WholeDaysInEitherOrderAndRefusals) {
       {"--help", 0, "DATE1"},
   };
   for (const auto& c : cases) {
-    const clitest::CliRun run = clitest::runCli(std::string("days ") + c.arguments, " 2>&1");
+    const lumtest::CliRun run = lumtest::runCli(std::string("days ") + c.arguments);
     EXPECT_EQ(run.status, c.status) << c.arguments;
     if (std::string(c.output).ends_with("\n")) {
       EXPECT_EQ(run.out, c.output) << c.arguments;

@@ -6,15 +6,17 @@
 #include <regex>
 #include <tuple>
 
-#include "CliRun.h"
+#include "support/CliRun.h"
 #include "support/TestData.h"
 
 namespace {
 
-using clitest::runCli;
 using nlohmann::json;
 
-std::string realFile(const std::string& name) { return "'" + (*lumtest::realDataDir() / name).string() + "'"; }
+// Standard error is dropped: what is printed is read as JSON.
+lumtest::CliRun runCli(const std::string& arguments) { return lumtest::runCliStdout(arguments); }
+
+std::string realFile(const std::string& name) { return lumtest::shellQuoted(*lumtest::realDataDir() / name); }
 
 // The value of the row (group, title), or null when there is no such row.
 json rowValue(const json& file, const std::string& group, const std::string& title) {

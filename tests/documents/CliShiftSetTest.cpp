@@ -1,10 +1,14 @@
 // lumidate-cli shift and set on small generated photos.
 #include <gtest/gtest.h>
 
-#include "CliRun.h"
 #include "PhotoFiles.h"
+#include "support/CliRun.h"
 
 using namespace doctest_support;
+using lumtest::CliRun;
+using lumtest::runCli;
+using lumtest::runCopyOfCli;
+using lumtest::shellQuoted;
 
 namespace {
 
@@ -40,8 +44,8 @@ TEST_F(CliFixture, UsageErrorsChangeNothing) {
   };
   for (const std::string& args : cases) {
     SCOPED_TRACE(args);
-    const CliResult r = runCli(args);
-    EXPECT_EQ(r.status, 2) << r.output;
+    const CliRun r = runCli(args);
+    EXPECT_EQ(r.status, 2) << r.out;
   }
   EXPECT_EQ(readBytes(a), before);
 }
@@ -49,50 +53,50 @@ TEST_F(CliFixture, UsageErrorsChangeNothing) {
 TEST_F(CliFixture, ShiftForwardAndBackRestoresTheFilesExactly) {
   std::filesystem::remove(b);  // its 0001 date would refuse a backward year
   const auto beforeA = readBytes(a), beforeC = readBytes(c);
-  CliResult r = runCli("shift --months 1 --hours 1 " + q(folder.path()), "TZ=America/New_York");
-  ASSERT_EQ(r.status, 0) << r.output;
+  CliRun r = runCli("shift --months 1 --hours 1 " + q(folder.path()), "TZ=America/New_York");
+  ASSERT_EQ(r.status, 0) << r.out;
   EXPECT_EQ(datesOf(a), (DateTargets::Texts{"2020:02:29 11:00:00", "2020:02:29 11:00:00", "2020:02:29 11:00:00"}));
   EXPECT_EQ(datesOf(c), (DateTargets::Texts{"2020:02:29 11:00:00", std::nullopt, std::nullopt}));
-  EXPECT_NE(r.output.find("2 of 2 files saved"), std::string::npos) << r.output;
+  EXPECT_NE(r.out.find("2 of 2 files saved"), std::string::npos) << r.out;
 
   // Month-end clamping is not reversible in general, but 02-29 back one month is 01-29.
   r = runCli("shift --backward --months 1 --hours 1 " + q(folder.path()), "TZ=Asia/Kolkata");
-  ASSERT_EQ(r.status, 0) << r.output;
+  ASSERT_EQ(r.status, 0) << r.out;
   EXPECT_EQ(datesOf(a)[0], "2020:01:29 10:00:00");
 
   r = runCli("shift --days 2 " + q(folder.path()));
-  ASSERT_EQ(r.status, 0) << r.output;
+  ASSERT_EQ(r.status, 0) << r.out;
   EXPECT_EQ(readBytes(a), beforeA);
   EXPECT_EQ(readBytes(c), beforeC);
 }
 
 TEST_F(CliFixture, ADateLeavingTheRangeRefusesTheWholeBatch) {
   const auto beforeA = readBytes(a), beforeB = readBytes(b);
-  const CliResult r = runCli("shift --backward --years 1 " + q(folder.path()));
+  const CliRun r = runCli("shift --backward --years 1 " + q(folder.path()));
   EXPECT_EQ(r.status, 2);
-  EXPECT_NE(r.output.find(b.string() + ": DateTimeOriginal 0001:06:01 00:00:00"), std::string::npos) << r.output;
-  EXPECT_EQ(r.output.find(a.string() + ":"), std::string::npos) << r.output;
+  EXPECT_NE(r.out.find(b.string() + ": DateTimeOriginal 0001:06:01 00:00:00"), std::string::npos) << r.out;
+  EXPECT_EQ(r.out.find(a.string() + ":"), std::string::npos) << r.out;
   EXPECT_EQ(readBytes(a), beforeA);
   EXPECT_EQ(readBytes(b), beforeB);
 
   // Without the original date among the targets the batch goes through.
-  const CliResult onlyEdited = runCli("shift --backward --years 1 --only edited,digitized " + q(folder.path()));
-  EXPECT_EQ(onlyEdited.status, 0) << onlyEdited.output;
+  const CliRun onlyEdited = runCli("shift --backward --years 1 --only edited,digitized " + q(folder.path()));
+  EXPECT_EQ(onlyEdited.status, 0) << onlyEdited.out;
   EXPECT_EQ(datesOf(b), (DateTargets::Texts{"0001:06:01 00:00:00", std::nullopt, "2019:01:31 10:00:00"}));
 }
 
 TEST_F(CliFixture, DryRunPrintsAndWritesNothing) {
   const auto beforeA = readBytes(a);
-  const CliResult r = runCli("set --to '2000:02:29 12:34:56' --dry-run " + q(a));
+  const CliRun r = runCli("set --to '2000:02:29 12:34:56' --dry-run " + q(a));
   EXPECT_EQ(r.status, 0);
-  EXPECT_NE(r.output.find("DateTimeOriginal   2020:01:31 10:00:00 -> 2000:02:29 12:34:56"), std::string::npos)
-      << r.output;
+  EXPECT_NE(r.out.find("DateTimeOriginal   2020:01:31 10:00:00 -> 2000:02:29 12:34:56"), std::string::npos)
+      << r.out;
   EXPECT_EQ(readBytes(a), beforeA);
 }
 
 TEST_F(CliFixture, SetOnlySomeDatesAndKeepMissingOnesMissing) {
-  const CliResult r = runCli("set --to '2000:02:29 12:34:56' --only original,digitized " + q(folder.path()));
-  ASSERT_EQ(r.status, 0) << r.output;
+  const CliRun r = runCli("set --to '2000:02:29 12:34:56' --only original,digitized " + q(folder.path()));
+  ASSERT_EQ(r.status, 0) << r.out;
   const std::string t = "2000:02:29 12:34:56";
   EXPECT_EQ(datesOf(a), (DateTargets::Texts{t, t, kA}));
   EXPECT_EQ(datesOf(b), (DateTargets::Texts{t, std::nullopt, kA}));
@@ -101,9 +105,9 @@ TEST_F(CliFixture, SetOnlySomeDatesAndKeepMissingOnesMissing) {
 
 TEST_F(CliFixture, AFileThatCannotBeSavedGivesExitOneAndTheOthersAreSaved) {
   ::chmod(a.c_str(), 0444);
-  const CliResult r = runCli("set --to '2000:02:29 12:34:56' " + q(folder.path()));
+  const CliRun r = runCli("set --to '2000:02:29 12:34:56' " + q(folder.path()));
   EXPECT_EQ(r.status, 1);
-  EXPECT_NE(r.output.find(a.string() + ": not saved (The file is read-only.)"), std::string::npos) << r.output;
+  EXPECT_NE(r.out.find(a.string() + ": not saved (The file is read-only.)"), std::string::npos) << r.out;
   EXPECT_EQ(datesOf(c)[0], "2000:02:29 12:34:56");
   EXPECT_EQ(datesOf(a)[0], kA);
 }
@@ -116,15 +120,15 @@ TEST_F(CliFixture, WithoutItsCommandsPartTheProgramListsDatesAndEditsNothing) {
   std::filesystem::copy_file(LUMIDATE_CLI, alone);
   const auto before = readBytes(a);
 
-  const CliResult dates = runCli("dates " + q(a), "", alone.string());
-  EXPECT_EQ(dates.status, 0) << dates.output;
-  EXPECT_NE(dates.output.find(kA), std::string::npos) << dates.output;
+  const CliRun dates = runCopyOfCli(alone.string(), "dates " + q(a));
+  EXPECT_EQ(dates.status, 0) << dates.out;
+  EXPECT_NE(dates.out.find(kA), std::string::npos) << dates.out;
 
   for (const std::string args : {"shift --hours 1 ", "set --to '2000:02:29 12:34:56' ", "dates --help "}) {
-    const CliResult r = runCli(args + q(a), "", alone.string());
-    EXPECT_EQ(r.status, 1) << r.output;
-    EXPECT_NE(r.output.find("cannot load its commands (lumidate-cli-commands.so is not installed"), std::string::npos)
-        << r.output;
+    const CliRun r = runCopyOfCli(alone.string(), args + q(a));
+    EXPECT_EQ(r.status, 1) << r.out;
+    EXPECT_NE(r.out.find("cannot load its commands (lumidate-cli-commands.so is not installed"), std::string::npos)
+        << r.out;
   }
   EXPECT_EQ(readBytes(a), before);
 }

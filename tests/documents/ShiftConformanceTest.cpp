@@ -7,11 +7,14 @@
 #include <cstdio>
 #include <set>
 
-#include "CliRun.h"
 #include "TempFiles.h"
+#include "support/CliRun.h"
 #include "support/TestData.h"
 
 using namespace doctest_support;
+using lumtest::CliRun;
+using lumtest::runCli;
+using lumtest::shellQuoted;
 using nlohmann::json;
 
 namespace {
@@ -120,15 +123,15 @@ TEST(ShiftConformance, RealFilesShiftForwardAndBack) {
 
   // 1. With the year-0 files in it, the whole batch refuses and names them.
   const std::string forward = "shift --hours 1 --minutes 2 --seconds 3 " + shellQuoted(folder.path().string());
-  CliResult r = runCli(forward);
-  EXPECT_EQ(r.status, 2) << r.output;
-  for (const RealFile& f : refusing) EXPECT_NE(r.output.find(f.name + ": Date"), std::string::npos) << r.output;
+  CliRun r = runCli(forward);
+  EXPECT_EQ(r.status, 2) << r.out;
+  for (const RealFile& f : refusing) EXPECT_NE(r.out.find(f.name + ": Date"), std::string::npos) << r.out;
   for (const RealFile& f : files) EXPECT_EQ(lumtest::readFile(folder / f.name), f.bytes) << f.name;
   for (const RealFile& f : refusing) std::filesystem::remove(folder / f.name);
 
   // 2. Forward: only the 19 bytes of kept dates change; exiftool reads the shifted dates.
   r = runCli(forward, "TZ=America/New_York");
-  ASSERT_EQ(r.status, 0) << r.output;
+  ASSERT_EQ(r.status, 0) << r.out;
   const json read = exiftoolDates(folder.path());
   ASSERT_TRUE(read.is_array());
   int comparedDates = 0;
@@ -163,7 +166,7 @@ TEST(ShiftConformance, RealFilesShiftForwardAndBack) {
   //    form (an ISO text) comes back canonical in its own 19 bytes.
   r = runCli("shift --backward --hours 1 --minutes 2 --seconds 3 " + shellQuoted(folder.path().string()),
              "TZ=Asia/Kolkata");
-  ASSERT_EQ(r.status, 0) << r.output;
+  ASSERT_EQ(r.status, 0) << r.out;
   int canonicalFiles = 0;
   for (const RealFile& f : files) {
     SCOPED_TRACE(f.name);
