@@ -6,8 +6,10 @@ import json
 import os
 import platform
 import shutil
+import statistics
 import subprocess
 import sys
+import time
 
 import gensets
 import measure
@@ -106,19 +108,34 @@ def machine_description(scratch, repo, load_at_start, note):
             "commit": commit, "lines": lines}
 
 
-def run_model_bench(model, scratch, small, large):
+def run_model_bench(model, cli, scratch, runs):
+    """Runs the model benchmark `runs` times; each run is preceded by a timed
+    `lumidate-cli dates` over the same small set, which the load is compared
+    with, so that other work on the machine weighs on both alike. Answers the
+    median of every figure, with the loads and listings of each run."""
     if not model or not os.path.exists(model):
         return None, ("Not measured: the document-model benchmark is not built yet (it is built "
                       "once the image-file and multi-file document classes are in the tree).")
-    argv = [model, "--small", os.path.join(scratch, "sets", "small"),
-            "--large", os.path.join(scratch, "sets", "large")]
+    small = os.path.join(scratch, "sets", "small")
+    argv = [model, "--small", small, "--large", os.path.join(scratch, "sets", "large")]
     print("== document model and thumbnails", flush=True)
-    done = subprocess.run(argv, capture_output=True, text=True)
-    if done.returncode != 0:
-        tail = (done.stderr.strip().splitlines() or [""])[-1]
-        return None, "Not measured: the model benchmark failed (exit %d): %s" % (done.returncode, tail)
-    data = json.loads(done.stdout)
-    return data, data.get("summary", "")
+    samples, listings = [], []
+    for run in range(1, runs + 1):
+        start = time.monotonic()
+        subprocess.run([cli, "dates", small], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        listings.append(time.monotonic() - start)
+        done = subprocess.run(argv, capture_output=True, text=True)
+        if done.returncode != 0:
+            tail = (done.stderr.strip().splitlines() or [""])[-1]
+            return None, "Not measured: the model benchmark failed (exit %d): %s" % (done.returncode, tail)
+        samples.append(json.loads(done.stdout))
+        print("    run %d: load %.3f s, dates beside it %.3f s" % (run, samples[-1].get("load_s", 0), listings[-1]),
+              flush=True)
+    data = report.median_record(samples)
+    data["load_runs_s"] = [s.get("load_s") for s in samples]
+    data["dates_runs_s"] = listings
+    data["dates_beside_s"] = statistics.median(listings)
+    return data, ""
 
 
 def main(argv):
@@ -164,7 +181,7 @@ def main(argv):
             name, folder, first_dto, measure.shift_programs(args.cli, args.floor, date_at),
             args.runs, os.path.join(args.scratch, "work"), log_dir, shifting=True)
 
-    results["model"], model_note = run_model_bench(args.model, args.scratch, args.small, args.large)
+    results["model"], model_note = run_model_bench(args.model, args.cli, args.scratch, args.runs)
     record = {"results": results, "sets": set_lines, "command": args.command, "model_note": model_note,
               "machine": machine_description(args.scratch, repo, load_at_start, args.note)}
     with open(os.path.join(args.scratch, "results.json"), "w") as f:

@@ -123,9 +123,11 @@ def goal_rows(results):
     rows.append(goal("peak RSS of dates over the small set (< 150 MB)",
                      rss["rss_mb"] if rss else None, 150.0, True, unit="MB"))
     model = results.get("model") or {}
+    # The listing timed beside the loads when there is one; else the
+    # listing of the reading section.
+    dates_total = model.get("dates_beside_s")
     dates_small = results.get("read", {}).get("small")
-    dates_total = None
-    if dates_small:
+    if dates_total is None and dates_small:
         s = median_of(results, "read", "small", "lumidate")
         dates_total = s["median"] * dates_small["count"] if s else None
     rows.append(goal("model load / dates, small set (≤ 2x)",
@@ -139,6 +141,46 @@ def goal_rows(results):
     rows.append(goal("thumbnails of 12 MP files per second, all cores (≥ 150)",
                      model.get("thumbs_per_s"), 150.0, False, unit="/s"))
     return rows
+
+
+def median_record(samples):
+    """The median of every number of the model benchmark's runs, key by key
+    (nested objects too); other values are taken from the first run."""
+    out = {}
+    for key, first in samples[0].items():
+        values = [s[key] for s in samples if key in s]
+        if isinstance(first, dict):
+            out[key] = median_record(values)
+        elif isinstance(first, (int, float)) and not isinstance(first, bool):
+            out[key] = statistics.median(values)
+        else:
+            out[key] = first
+    return out
+
+
+def spread(values, scale=1.0, form="%.0f"):
+    return " – ".join(form % (v * scale) for v in (min(values), max(values)))
+
+
+def model_summary(m):
+    runs = len(m.get("load_runs_s") or [])
+    text = ("Measured by `lumidate-bench-model` with %d worker threads" % m.get("threads", 0))
+    if runs:
+        text += (", %d runs, medians (each run follows a timed `lumidate-cli dates` over the same "
+                 "set, the listing the load is compared with: %.0f ms, %s ms)"
+                 % (runs, m["dates_beside_s"] * 1000, spread(m["dates_runs_s"], 1000)))
+    text += (": loading %d files of the small set into one multi-file document %.0f ms"
+             % (m.get("files", 0), m.get("load_s", 0) * 1000))
+    if runs:
+        text += " (%s ms)" % spread(m["load_runs_s"], 1000)
+    text += ("; one Forward apply of one hour over all of them %.1f ms; one undo %.1f ms; the slowest "
+             "sort of the six columns %.1f ms. Thumbnails of the large set through the image-file model "
+             "(open, then the camera's thumbnail when it comes out at the size the main image would, "
+             "else a scaled decode; fit into 150 x 150): %.0f files per second; decoding every main "
+             "image instead (scaled, first 100 files): %.0f files per second."
+             % (m.get("apply_s", 0) * 1000, m.get("undo_s", 0) * 1000, m.get("sort_max_s", 0) * 1000,
+                m.get("thumbs_per_s", 0), m.get("decoded_thumbs_per_s", 0)))
+    return text
 
 
 def render(results, machine, sets, command, model_note, notes=""):
@@ -167,7 +209,8 @@ def render(results, machine, sets, command, model_note, notes=""):
             out += ["", "## %s: %s set (%d files)" % (SECTION_TITLE[kind], set_name,
                                                         set_result["count"]), ""]
             out.append(markdown_table(header, section_rows(kind, set_result)))
-    out += ["", "## Document model and thumbnails", "", model_note]
+    model = results.get("model")
+    out += ["", "## Document model and thumbnails", "", model_summary(model) if model else model_note]
     out += ["", "## Goals", ""]
     out.append(markdown_table(["goal", "measured", "status"], goal_rows(results)))
     if notes.strip():

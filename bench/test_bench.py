@@ -188,6 +188,21 @@ class ReportTest(unittest.TestCase):
         self.assertEqual(rows["thumbnails of 12 MP files per second, all cores (≥ 150)"][2], "**missed**")
 
 
+    def test_model_runs_give_medians_and_the_load_is_compared_with_the_listing_beside_it(self):
+        runs = [{"load_s": 0.3, "files": 10, "threads": 2, "sort_s": {"Edit": 0.004}},
+                {"load_s": 0.1, "files": 10, "threads": 2, "sort_s": {"Edit": 0.001}},
+                {"load_s": 0.2, "files": 10, "threads": 2, "sort_s": {"Edit": 0.002}}]
+        model = report.median_record(runs)
+        self.assertEqual((model["load_s"], model["files"], model["sort_s"]), (0.2, 10, {"Edit": 0.002}))
+        model.update({"load_runs_s": [0.3, 0.1, 0.2], "dates_runs_s": [0.2, 0.1, 0.1], "dates_beside_s": 0.1})
+        small = {"count": 10, "programs": [program("lumidate", "lumidate", [1.0])]}
+        rows = {r[0]: r for r in report.goal_rows({"read": {"small": small}, "model": model})}
+        self.assertEqual(rows["model load / dates, small set (≤ 2x)"][1:], ["2.00x", "met"])
+        summary = report.model_summary(model)
+        self.assertIn("3 runs, medians", summary)
+        self.assertIn("200 ms (100 – 300 ms)", summary)
+
+
 @unittest.skipUnless(os.path.exists(measure.TIME), "GNU time is not installed")
 class MeasureTest(unittest.TestCase):
     def test_run_timed_reports_status_rss_and_last_error_line(self):
