@@ -21,7 +21,7 @@ ReadFailure failureFor(const std::filesystem::path& path, int error) {
   return f;
 }
 
-// Closes the descriptor on every path out of mapFile() and readFile().
+// Closes the descriptor on every path out of the factories.
 struct Descriptor {
   int fd;
   ~Descriptor() {
@@ -80,21 +80,12 @@ int readStart(int fd, std::size_t expected, std::unique_ptr<std::uint8_t[]>* buf
 
 }  // namespace
 
-std::shared_ptr<const FileData> FileData::mapFile(const std::filesystem::path& path, ReadFailure* failure) {
-  return openFile(path, failure, false);
-}
-
 std::shared_ptr<const FileData> FileData::briefFile(const std::filesystem::path& path, ReadFailure* failure) {
-  return openFile(path, failure, true);
-}
-
-std::shared_ptr<const FileData> FileData::openFile(const std::filesystem::path& path, ReadFailure* failure,
-                                                   bool readSmall) {
   const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
   struct stat st {};
   if (!isOpenRegularFile(file, path, &st, failure)) return nullptr;
   const auto size = static_cast<std::size_t>(st.st_size);
-  if (size == 0 || (readSmall && size <= kBriefReadUpTo)) return readOpenFile(file.fd, st, size, path, failure);
+  if (size <= kBriefReadUpTo) return readOpenFile(file.fd, st, size, path, failure);
   return mapOpenFile(file.fd, st, path, failure);
 }
 
@@ -169,16 +160,6 @@ std::shared_ptr<const FileData> FileData::fromBytes(std::vector<std::uint8_t> by
   data->data_ = data->owned_.data();
   data->size_ = data->owned_.size();
   return data;
-}
-
-std::shared_ptr<const FileData> FileData::afterInPlaceWrite(std::shared_ptr<const FileData> data, FileStamp stamp) {
-  if (!data || (!data->mapping_ && !data->shared_)) return nullptr;
-  auto restamped = std::make_shared<FileData>(Key{});
-  restamped->stamp_ = stamp;
-  restamped->data_ = data->data_;
-  restamped->size_ = data->size_;
-  restamped->shared_ = data->shared_ ? data->shared_ : std::move(data);
-  return restamped;
 }
 
 FileData::~FileData() {

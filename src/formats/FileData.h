@@ -3,8 +3,8 @@
 // as long as anyone keeps the object, or an owned copy (a small file read
 // briefly, or bytes handed in).
 //
-// The bytes are shared and immutable: several readers (the scan, the
-// thumbnail job, the save's copy) may hold them at once from any thread.
+// The bytes are shared and immutable: several readers may hold them at once
+// from any thread.
 
 #include <cstdint>
 #include <filesystem>
@@ -46,17 +46,14 @@ struct ReadFailure {
 
 class FileData {
  public:
-  // Maps the whole file read-only. An empty file gives an object with no
-  // bytes and no failure; a file that cannot be opened or mapped gives
-  // nullptr and fills *failure when given.
-  static std::shared_ptr<const FileData> mapFile(const std::filesystem::path& path, ReadFailure* failure = nullptr);
-
-  // A mapping of the whole file together with a copy of its first
-  // `headLength` bytes, read through the same descriptor, so that both show
+  // Maps the whole file read-only, together with a copy of its first
+  // `headLength` bytes read through the same descriptor, so that both show
   // the same file. Parsing the copy spares the page faults that the first
   // touch of each fresh mapping costs (most of the time to open a file that
-  // is already in memory); the mapping is still kept for everything after.
-  // For an empty file both are empty; on failure both are null.
+  // is already in memory); the mapping is what a document keeps as the
+  // file's bytes. For an empty file both are empty, without a failure; a
+  // file that cannot be opened or mapped gives two nulls and fills *failure
+  // when given.
   struct MappedWithHead {
     std::shared_ptr<const FileData> whole;
     std::shared_ptr<const FileData> head;
@@ -64,9 +61,9 @@ class FileData {
   static MappedWithHead mapFileWithHead(const std::filesystem::path& path, std::size_t headLength,
                                         ReadFailure* failure = nullptr);
 
-  // The same for bytes that are looked at once and let go at once (listing
-  // the dates of a folder): a file up to kBriefReadUpTo is read into memory
-  // instead. Unmapping interrupts every other core running this process to
+  // The whole file for bytes that are looked at once and let go at once
+  // (listing the dates of a folder): a file up to kBriefReadUpTo is read
+  // into memory, a longer one mapped. Unmapping interrupts every other core running this process to
   // flush its address caches, which costs more than copying a small file;
   // a mapping is still cheaper for anything kept, as it holds no memory of
   // its own.
@@ -84,13 +81,6 @@ class FileData {
   // file short since, and touching a mapping past the file's new end would
   // kill the process, whereas a copy read now is always whole.
   static std::shared_ptr<const FileData> readFile(const std::filesystem::path& path, ReadFailure* failure = nullptr);
-
-  // The bytes of a mapped file after the program wrote into it in place,
-  // with the file's new stamp. A write through the file (pwrite) lands in
-  // the very pages the mapping shows, so the mapping already holds the new
-  // bytes; it is shared, not made again. Nullptr when `data` is not a
-  // mapping (a copy would still show the old bytes).
-  static std::shared_ptr<const FileData> afterInPlaceWrite(std::shared_ptr<const FileData> data, FileStamp stamp);
 
   // Holds a copy of bytes already in memory (the bytes written by a save).
   static std::shared_ptr<const FileData> fromBytes(std::vector<std::uint8_t> bytes,
@@ -120,8 +110,6 @@ class FileData {
   const std::optional<FileStamp>& stampAsOpened() const { return stamp_; }
 
  private:
-  static std::shared_ptr<const FileData> openFile(const std::filesystem::path& path, ReadFailure* failure,
-                                                  bool readSmall);
   static std::shared_ptr<const FileData> mapOpenFile(int fd, const struct stat& st, const std::filesystem::path& path,
                                                      ReadFailure* failure);
   static std::shared_ptr<const FileData> readOpenFile(int fd, const struct stat& st, std::size_t length,
@@ -132,7 +120,6 @@ class FileData {
   void* mapping_ = nullptr;  // non-null when data_ is an mmap of size_ bytes
   std::vector<std::uint8_t> owned_;          // bytes handed in (fromBytes)
   std::unique_ptr<std::uint8_t[]> buffer_;  // bytes read from the file
-  std::shared_ptr<const FileData> shared_;  // the mapping these bytes are shown from
   std::optional<FileStamp> stamp_;
 };
 

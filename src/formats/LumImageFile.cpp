@@ -94,17 +94,6 @@ std::unique_ptr<LumImageFile> LumImageFile::imageFileWithURL(const std::filesyst
   return fromData(std::move(data), error);
 }
 
-std::unique_ptr<LumImageFile> LumImageFile::imageFileAfterSave(const std::filesystem::path& url,
-                                                               std::shared_ptr<const lum::FileData> opened,
-                                                               std::optional<lum::FileStamp> stampAfterSave) {
-  // Reusing the mapping spares opening, mapping and unmapping the file once
-  // more per saved photo; its pages are already in memory.
-  if (stampAfterSave)
-    if (auto data = lum::FileData::afterInPlaceWrite(std::move(opened), *stampAfterSave); data && !data->empty())
-      return fromData(std::move(data), nullptr);
-  return imageFileWithURL(url, nullptr);
-}
-
 std::unique_ptr<LumImageFile> LumImageFile::fromData(std::shared_ptr<const lum::FileData> data, LumError* error) {
   auto file = std::make_unique<LumImageFile>();
   if (!file->searchImageDataAndMakeExifObject(data->bytes(), error)) return nullptr;

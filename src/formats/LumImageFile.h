@@ -83,14 +83,6 @@ class LumImageFile {
   static std::unique_ptr<LumImageFile> imageFileWithURL(const std::filesystem::path& url, LumError* error,
                                                         Holding holding = Holding::Kept);
 
-  // The file at url after the program saved into it in place: made from
-  // the bytes of `opened` (the file's image data when it was opened) with
-  // the stamp the save left, when those bytes are a mapping that shows the
-  // save; otherwise the file is opened again. Nullptr when it does not open.
-  static std::unique_ptr<LumImageFile> imageFileAfterSave(const std::filesystem::path& url,
-                                                          std::shared_ptr<const lum::FileData> opened,
-                                                          std::optional<lum::FileStamp> stampAfterSave);
-
   LumImageFile();
   ~LumImageFile();
   LumImageFile(const LumImageFile&) = delete;

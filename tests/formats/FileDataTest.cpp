@@ -18,7 +18,7 @@ TEST(FileData, BriefAndMappedOpeningsAgreeAtEverySize) {
     lumtest::Bytes bytes(size);
     for (std::size_t i = 0; i < size; ++i) bytes[i] = static_cast<std::uint8_t>(i * 31 + 7);
     const lumtest::TempFile temp(bytes);
-    const auto mapped = FileData::mapFile(temp.path());
+    const auto mapped = FileData::mapFileWithHead(temp.path(), 4096).whole;
     const auto brief = FileData::briefFile(temp.path());
     const auto read = FileData::readFile(temp.path());
     ASSERT_TRUE(mapped && brief && read);
@@ -41,8 +41,6 @@ TEST(FileData, AHeadIsTheFileStartWithTheWholeFilesStamp) {
     ASSERT_TRUE(whole && headOfMapped);
     EXPECT_EQ(lumtest::Bytes(whole->bytes().data(), whole->bytes().data() + whole->size()), bytes);
     EXPECT_EQ(whole->stampAsOpened(), lum::FileStamp::of(temp.path()));
-    // The whole file is a mapping (which alone shows a later in-place write).
-    EXPECT_EQ(FileData::afterInPlaceWrite(whole, *whole->stampAsOpened()) != nullptr, size > 0);
     for (const auto& head : {FileData::readHead(temp.path(), kHead), headOfMapped}) {
       ASSERT_TRUE(head);
       const std::size_t kept = std::min(size, kHead);
@@ -52,28 +50,6 @@ TEST(FileData, AHeadIsTheFileStartWithTheWholeFilesStamp) {
       EXPECT_EQ(head->holdsWholeFile(), size <= kHead);
     }
   }
-}
-
-TEST(FileData, AMappingShowsAnInPlaceWriteWithTheNewStamp) {
-  using lum::FileData;
-  const lumtest::TempFile temp(lumtest::Bytes(10000, 'a'));
-  const auto mapped = FileData::mapFile(temp.path());
-  ASSERT_TRUE(mapped);
-  {
-    std::fstream file(temp.path(), std::ios::in | std::ios::out | std::ios::binary);
-    file.seekp(5000);
-    file.write("2020:02:29 12:34:56", 19);
-  }
-  const auto stamp = lum::FileStamp::of(temp.path());
-  ASSERT_TRUE(stamp);
-  const auto after = FileData::afterInPlaceWrite(mapped, *stamp);
-  ASSERT_TRUE(after);
-  EXPECT_EQ(after->stampAsOpened(), stamp);
-  const auto text = after->bytes().bytes(5000, 19);
-  ASSERT_TRUE(text);
-  EXPECT_EQ(std::string(text->begin(), text->end()), "2020:02:29 12:34:56");
-  // A copy holds the bytes of the moment it was read: it is refused.
-  EXPECT_EQ(FileData::afterInPlaceWrite(FileData::readFile(temp.path()), *stamp), nullptr);
 }
 
 TEST(FileData, AFolderOrAMissingFileIsAFailureWithAReason) {
