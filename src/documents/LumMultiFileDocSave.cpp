@@ -21,6 +21,7 @@ struct LumMultiFileDoc::SaveJob {
   std::filesystem::path path;
   std::vector<InPlaceWriter::BytePatch> patches;
   std::optional<lum::FileStamp> opened;
+  std::shared_ptr<const lum::FileData> data;  // the bytes the file was opened with
 };
 
 struct LumMultiFileDoc::SaveResult {
@@ -73,7 +74,7 @@ LumMultiFileDoc::SaveResult LumMultiFileDoc::saveOne(const SaveJob& job, const I
   result.saved = written.ok;
   result.reason = written.reason;
   // The model then holds what is on disk now: the saved file opened again.
-  if (written.ok) result.reread = LumImageFile::imageFileWithURL(job.path, nullptr);
+  if (written.ok) result.reread = LumImageFile::imageFileAfterSave(job.path, job.data);
   return result;
 }
 
@@ -126,7 +127,8 @@ bool LumMultiFileDoc::saveFileAll(bool all, bool closeAfterSave, bool quitApp) {
 
   auto jobs = std::make_shared<std::vector<SaveJob>>();
   for (LumFileItemDoc* item : items)
-    jobs->push_back({item, item->path(), item->datePatches(), item->imageFile().stampAsOpened()});
+    jobs->push_back({item, item->path(), item->datePatches(), item->imageFile().stampAsOpened(),
+                     item->imageFile().imageData()});
   saving_ = true;
   emit savingStarted(static_cast<int>(items.size()));
 

@@ -40,7 +40,7 @@ bool LumSingleFileDoc::saveFileAll(bool /*all*/, bool closeAfterSave, bool quitA
     undoStack_.clear();  // clean, and a save cannot be undone
     // Scan the saved file again so the originals, the stamp and the bytes
     // are what is on disk now. Should that fail, the old model stays.
-    if (std::unique_ptr<LumImageFile> reread = LumImageFile::imageFileWithURL(*fileURL_, nullptr))
+    if (std::unique_ptr<LumImageFile> reread = LumImageFile::imageFileAfterSave(*fileURL_, imageFile_->imageData()))
       replaceImageFile(std::move(reread));
     outcome.closeDocument = closeAfterSave;
     outcome.continueQuit = quitApp;

@@ -91,6 +91,18 @@ std::shared_ptr<const FileData> FileData::briefFile(const std::filesystem::path&
 
 FileData::MappedWithHead FileData::mapFileWithHead(const std::filesystem::path& path, std::size_t headLength,
                                                    ReadFailure* failure) {
+  return openWithHead(path, headLength, nullptr, failure);
+}
+
+FileData::MappedWithHead FileData::mapFileWithHeadAfterWrite(const std::filesystem::path& path,
+                                                             std::size_t headLength,
+                                                             std::shared_ptr<const FileData> opened,
+                                                             ReadFailure* failure) {
+  return openWithHead(path, headLength, std::move(opened), failure);
+}
+
+FileData::MappedWithHead FileData::openWithHead(const std::filesystem::path& path, std::size_t headLength,
+                                                std::shared_ptr<const FileData> reusable, ReadFailure* failure) {
   const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
   struct stat st {};
   if (!isOpenRegularFile(file, path, &st, failure)) return {};
@@ -101,6 +113,18 @@ FileData::MappedWithHead FileData::mapFileWithHead(const std::filesystem::path& 
   }
   auto head = readOpenFile(file.fd, st, std::min(headLength, size), path, failure);
   if (!head) return {};
+  const FileStamp stamp = FileStamp::ofStat(st);
+  if (reusable && reusable->stamp_ && (reusable->mapping_ || reusable->shared_)) {
+    const FileStamp& was = *reusable->stamp_;
+    if (was.device == stamp.device && was.inode == stamp.inode && was.size == stamp.size) {
+      auto restamped = std::make_shared<FileData>(Key{});
+      restamped->stamp_ = stamp;
+      restamped->data_ = reusable->data_;
+      restamped->size_ = reusable->size_;
+      restamped->shared_ = reusable->shared_ ? reusable->shared_ : std::move(reusable);
+      return {std::move(restamped), std::move(head)};
+    }
+  }
   auto whole = mapOpenFile(file.fd, st, path, failure);
   if (!whole) return {};
   return {std::move(whole), std::move(head)};

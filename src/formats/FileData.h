@@ -61,6 +61,16 @@ class FileData {
   static MappedWithHead mapFileWithHead(const std::filesystem::path& path, std::size_t headLength,
                                         ReadFailure* failure = nullptr);
 
+  // The same after the program wrote into the file in place, reusing the
+  // mapping it was opened with instead of mapping it once more: a write
+  // through the file lands in the very pages a shared mapping shows. The
+  // reused mapping carries the file's new stamp. When `opened` is not a
+  // mapping, or the path now names another file or one of another size, the
+  // file is mapped afresh.
+  static MappedWithHead mapFileWithHeadAfterWrite(const std::filesystem::path& path, std::size_t headLength,
+                                                  std::shared_ptr<const FileData> opened,
+                                                  ReadFailure* failure = nullptr);
+
   // The whole file for bytes that are looked at once and let go at once
   // (listing the dates of a folder): a file up to kBriefReadUpTo is read
   // into memory, a longer one mapped. Unmapping interrupts every other core running this process to
@@ -110,6 +120,8 @@ class FileData {
   const std::optional<FileStamp>& stampAsOpened() const { return stamp_; }
 
  private:
+  static MappedWithHead openWithHead(const std::filesystem::path& path, std::size_t headLength,
+                                     std::shared_ptr<const FileData> reusable, ReadFailure* failure);
   static std::shared_ptr<const FileData> mapOpenFile(int fd, const struct stat& st, const std::filesystem::path& path,
                                                      ReadFailure* failure);
   static std::shared_ptr<const FileData> readOpenFile(int fd, const struct stat& st, std::size_t length,
@@ -120,6 +132,7 @@ class FileData {
   void* mapping_ = nullptr;  // non-null when data_ is an mmap of size_ bytes
   std::vector<std::uint8_t> owned_;          // bytes handed in (fromBytes)
   std::unique_ptr<std::uint8_t[]> buffer_;  // bytes read from the file
+  std::shared_ptr<const FileData> shared_;  // the mapping these bytes are shown from
   std::optional<FileStamp> stamp_;
 };
 

@@ -70,20 +70,34 @@ LumImageFile::~LumImageFile() {
 std::unique_ptr<LumImageFile> LumImageFile::imageFileWithURL(const std::filesystem::path& url, LumError* error,
                                                              Holding holding) {
   lum::ReadFailure failure;
+  if (holding == Holding::Kept)
+    return fromMapped(lum::FileData::mapFileWithHead(url, kHeadBytes[0], &failure), failure, error);
   std::shared_ptr<const lum::FileData> data;
-  if (holding == Holding::DatesOnly) {
-    for (const std::size_t length : kHeadBytes) {
-      data = lum::FileData::readHead(url, length, &failure);
-      if (!data || data->holdsWholeFile()) break;
-      if (auto file = fromHead(data, data)) return file;
-    }
-    if (data && !data->holdsWholeFile()) data = lum::FileData::briefFile(url, &failure);
-  } else {
-    auto [whole, head] = lum::FileData::mapFileWithHead(url, kHeadBytes[0], &failure);
-    if (whole && !whole->empty())
-      if (auto file = fromHead(head, whole)) return file;
-    data = std::move(whole);
+  for (const std::size_t length : kHeadBytes) {
+    data = lum::FileData::readHead(url, length, &failure);
+    if (!data || data->holdsWholeFile()) break;
+    if (auto file = fromHead(data, data)) return file;
   }
+  if (data && !data->holdsWholeFile()) data = lum::FileData::briefFile(url, &failure);
+  return fromWhole(std::move(data), failure, error);
+}
+
+std::unique_ptr<LumImageFile> LumImageFile::imageFileAfterSave(const std::filesystem::path& url,
+                                                               std::shared_ptr<const lum::FileData> opened) {
+  lum::ReadFailure failure;
+  return fromMapped(lum::FileData::mapFileWithHeadAfterWrite(url, kHeadBytes[0], std::move(opened), &failure),
+                    failure, nullptr);
+}
+
+std::unique_ptr<LumImageFile> LumImageFile::fromMapped(lum::FileData::MappedWithHead mapped,
+                                                       const lum::ReadFailure& failure, LumError* error) {
+  if (mapped.whole && !mapped.whole->empty())
+    if (auto file = fromHead(mapped.head, mapped.whole)) return file;
+  return fromWhole(std::move(mapped.whole), failure, error);
+}
+
+std::unique_ptr<LumImageFile> LumImageFile::fromWhole(std::shared_ptr<const lum::FileData> data,
+                                                      const lum::ReadFailure& failure, LumError* error) {
   if (!data || data->empty()) {
     if (error && !data)
       std::fprintf(stderr, "LumImageFile - NSData error %s, %s, %s\n", failure.reason.c_str(),

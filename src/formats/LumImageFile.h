@@ -83,6 +83,15 @@ class LumImageFile {
   static std::unique_ptr<LumImageFile> imageFileWithURL(const std::filesystem::path& url, LumError* error,
                                                         Holding holding = Holding::Kept);
 
+  // The file at url opened again after the program saved into it in place.
+  // It keeps the mapping it was opened with (`opened`, its image data),
+  // which shows the new bytes, rather than making a second one: a document
+  // saving thousands of files would otherwise hold two mappings a file until
+  // the save ends, against the system's limit on mappings. Nullptr when the
+  // file does not open.
+  static std::unique_ptr<LumImageFile> imageFileAfterSave(const std::filesystem::path& url,
+                                                          std::shared_ptr<const lum::FileData> opened);
+
   LumImageFile();
   ~LumImageFile();
   LumImageFile(const LumImageFile&) = delete;
@@ -180,6 +189,12 @@ class LumImageFile {
   void setOperation(CancelFlag operation);
 
  private:
+  static std::unique_ptr<LumImageFile> fromMapped(lum::FileData::MappedWithHead mapped,
+                                                 const lum::ReadFailure& failure, LumError* error);
+  // Opens from the whole file's bytes, or reports why there are none
+  // (failure, or an empty file).
+  static std::unique_ptr<LumImageFile> fromWhole(std::shared_ptr<const lum::FileData> data,
+                                                 const lum::ReadFailure& failure, LumError* error);
   static std::unique_ptr<LumImageFile> fromData(std::shared_ptr<const lum::FileData> data, LumError* error);
   // Opens from the head of a JPEG when its scan provably found all it
   // needed there, keeping `keep` (the head itself, or the whole file's

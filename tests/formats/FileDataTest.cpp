@@ -52,6 +52,45 @@ TEST(FileData, AHeadIsTheFileStartWithTheWholeFilesStamp) {
   }
 }
 
+TEST(FileData, AfterAnInPlaceWriteTheMappingIsReusedWhileItShowsTheFile) {
+  using lum::FileData;
+  constexpr std::size_t kAt = 5000;
+  const std::string kText = "2020:02:29 12:34:56";
+  const struct {
+    const char* name;
+    bool mapped;      // whether the bytes held are a mapping
+    bool replaced;    // whether another file was moved into the path
+    bool reused;
+  } cases[] = {
+      {"a mapping of the same file", true, false, true},
+      {"a copy", false, false, false},
+      {"another file moved into its place", true, true, false},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    const lumtest::TempFile temp(lumtest::Bytes(10000, 'a'));
+    const auto opened = c.mapped ? FileData::mapFileWithHead(temp.path(), 4096).whole : FileData::readFile(temp.path());
+    ASSERT_TRUE(opened);
+    if (c.replaced) {
+      const auto other = temp.path().string() + ".new";
+      std::ofstream(other, std::ios::binary) << std::string(10000, 'a');
+      std::filesystem::rename(other, temp.path());
+    }
+    {
+      std::fstream file(temp.path(), std::ios::in | std::ios::out | std::ios::binary);
+      file.seekp(kAt);
+      file.write(kText.data(), static_cast<std::streamsize>(kText.size()));
+    }
+    const auto [whole, head] = FileData::mapFileWithHeadAfterWrite(temp.path(), 4096, opened);
+    ASSERT_TRUE(whole && head);
+    EXPECT_EQ(whole->bytes().data() == opened->bytes().data(), c.reused);
+    EXPECT_EQ(whole->stampAsOpened(), lum::FileStamp::of(temp.path()));
+    const auto text = whole->bytes().bytes(kAt, kText.size());
+    ASSERT_TRUE(text);
+    EXPECT_EQ(std::string(text->begin(), text->end()), kText);
+  }
+}
+
 TEST(FileData, AFolderOrAMissingFileIsAFailureWithAReason) {
   for (const char* path : {"/", "/nonexistent/lumidate/photo.jpg"}) {
     lum::ReadFailure failure;
