@@ -1,7 +1,9 @@
 #include "formats/FileData.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
+#include <cstdio>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -12,6 +14,8 @@ namespace lum {
 
 namespace {
 
+// Mappings held by FileData objects now.
+std::atomic<std::size_t> liveMappings{0};
 
 ReadFailure failureFor(const std::filesystem::path& path, int error) {
   ReadFailure f;
@@ -114,7 +118,7 @@ FileData::MappedWithHead FileData::openWithHead(const std::filesystem::path& pat
   auto head = readOpenFile(file.fd, st, std::min(headLength, size), path, failure);
   if (!head) return {};
   const FileStamp stamp = FileStamp::ofStat(st);
-  if (reusable && reusable->stamp_ && (reusable->mapping_ || reusable->shared_)) {
+  if (reusable && reusable->stamp_ && reusable->isMapped()) {
     const FileStamp& was = *reusable->stamp_;
     if (was.device == stamp.device && was.inode == stamp.inode && was.size == stamp.size) {
       auto restamped = std::make_shared<FileData>(Key{});
@@ -142,6 +146,7 @@ std::shared_ptr<const FileData> FileData::mapOpenFile(int fd, const struct stat&
   auto data = std::make_shared<FileData>(Key{});
   data->stamp_ = FileStamp::ofStat(st);
   data->mapping_ = mapping;
+  liveMappings.fetch_add(1, std::memory_order_relaxed);
   data->data_ = static_cast<const std::uint8_t*>(mapping);
   data->size_ = size;
   return data;
@@ -186,8 +191,29 @@ std::shared_ptr<const FileData> FileData::fromBytes(std::vector<std::uint8_t> by
   return data;
 }
 
+namespace {
+
+std::size_t mappingBudget() {
+  static const std::size_t budget = [] {
+    std::size_t kernelLimit = 65530;
+    if (std::FILE* f = std::fopen("/proc/sys/vm/max_map_count", "re")) {
+      unsigned long value = 0;
+      if (std::fscanf(f, "%lu", &value) == 1 && value > 0) kernelLimit = value;
+      std::fclose(f);
+    }
+    return std::min(FileData::kMappingBudget, kernelLimit / 2);
+  }();
+  return budget;
+}
+
+}  // namespace
+
+bool FileData::mayKeepAnotherMapping() { return liveMappings.load(std::memory_order_relaxed) < mappingBudget(); }
+
 FileData::~FileData() {
-  if (mapping_) ::munmap(mapping_, size_);
+  if (!mapping_) return;
+  ::munmap(mapping_, size_);
+  liveMappings.fetch_sub(1, std::memory_order_relaxed);
 }
 
 }  // namespace lum

@@ -61,6 +61,15 @@ class FileData {
   static MappedWithHead mapFileWithHead(const std::filesystem::path& path, std::size_t headLength,
                                         ReadFailure* failure = nullptr);
 
+  // Whether the process may keep one more mapping. The kernel allows a
+  // process a fixed number of mappings (vm.max_map_count, 65,530 by
+  // default), and every thread stack, large allocation and library needs
+  // one too: past that, the program cannot even allocate memory. Kept
+  // mappings are held to kMappingBudget, or half the kernel's limit when
+  // that is lower, so a document of any size leaves room for the rest.
+  static constexpr std::size_t kMappingBudget = 32768;
+  static bool mayKeepAnotherMapping();
+
   // The same after the program wrote into the file in place, reusing the
   // mapping it was opened with instead of mapping it once more: a write
   // through the file lands in the very pages a shared mapping shows. The
@@ -113,6 +122,8 @@ class FileData {
   bool empty() const { return size_ == 0; }
   // False for the head of a longer file (readHead).
   bool holdsWholeFile() const { return !stamp_ || stamp_->size == size_; }
+  // True when the bytes are shown by a mapping of the file.
+  bool isMapped() const { return mapping_ || shared_; }
 
   // Size and modification time of the file when it was mapped (the mapped
   // object's own stat, so it describes exactly these bytes); nullopt for

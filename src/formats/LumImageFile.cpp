@@ -70,8 +70,11 @@ LumImageFile::~LumImageFile() {
 std::unique_ptr<LumImageFile> LumImageFile::imageFileWithURL(const std::filesystem::path& url, LumError* error,
                                                              Holding holding) {
   lum::ReadFailure failure;
-  if (holding == Holding::Kept)
+  if (holding == Holding::Kept && lum::FileData::mayKeepAnotherMapping())
     return fromMapped(lum::FileData::mapFileWithHead(url, kHeadBytes[0], &failure), failure, error);
+  // A listing's file; also a document's once the process holds as many
+  // mappings as it may: it then keeps the bytes it was parsed from, which
+  // are all that is read of them after opening.
   std::shared_ptr<const lum::FileData> data;
   for (const std::size_t length : kHeadBytes) {
     data = lum::FileData::readHead(url, length, &failure);
@@ -84,6 +87,7 @@ std::unique_ptr<LumImageFile> LumImageFile::imageFileWithURL(const std::filesyst
 
 std::unique_ptr<LumImageFile> LumImageFile::imageFileAfterSave(const std::filesystem::path& url,
                                                                std::shared_ptr<const lum::FileData> opened) {
+  if (!(opened && opened->isMapped())) return imageFileWithURL(url, nullptr);
   lum::ReadFailure failure;
   return fromMapped(lum::FileData::mapFileWithHeadAfterWrite(url, kHeadBytes[0], std::move(opened), &failure),
                     failure, nullptr);

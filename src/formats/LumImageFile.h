@@ -73,9 +73,11 @@ class LumImageFile {
   // imageData() may be that head, so it serves for its dates and TIFF
   // structure, never for saving or decoding.
   //
-  // Holding::Kept (a document) always keeps a mapping of the whole file, but
-  // a JPEG is parsed from a copy of its first kHeadBytes[0] bytes when that
+  // Holding::Kept (a document) keeps a mapping of the whole file, but a JPEG
+  // is parsed from a copy of its first kHeadBytes[0] bytes when that
   // provably suffices, so that opening does not fault in the mapping's pages.
+  // Once the process holds as many mappings as it may
+  // (FileData::mayKeepAnotherMapping), a file is held as DatesOnly holds it.
   enum class Holding { Kept, DatesOnly };
   // Most cameras' headers (Exif with its thumbnail, tables, frame header)
   // fit in the first; those with large maker notes in the second.

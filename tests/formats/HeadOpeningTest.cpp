@@ -141,6 +141,32 @@ TEST(HeadOpening, AgreesWithParsingTheWholeFile) {
   }
 }
 
+// The kernel's limit on mappings is shared with every thread stack and large
+// allocation: past the budget, a document keeps what a listing keeps.
+TEST(HeadOpening, PastTheMappingBudgetADocumentKeepsItsHead) {
+  const lumtest::TempFile filler(Bytes(100, 'x'), "filler.jpg");
+  std::vector<std::shared_ptr<const lum::FileData>> held;
+  while (lum::FileData::mayKeepAnotherMapping() && held.size() <= lum::FileData::kMappingBudget)
+    held.push_back(lum::FileData::mapFileWithHead(filler.path(), 16).whole);
+  ASSERT_FALSE(lum::FileData::mayKeepAnotherMapping());
+
+  const Bytes bytes = withTrailer(JpegBuilder().exif(datedExif()).build());
+  const lumtest::TempFile temp(bytes);
+  const auto file = LumImageFile::imageFileWithURL(temp.path(), nullptr);
+  ASSERT_TRUE(file);
+  EXPECT_FALSE(file->imageData()->isMapped());
+  EXPECT_FALSE(file->imageData()->holdsWholeFile());
+  EXPECT_EQ(lumtest::shown(*file), shownFromAllBytes(bytes));
+  // Saved and opened again, it still maps nothing.
+  const auto reread = LumImageFile::imageFileAfterSave(temp.path(), file->imageData());
+  ASSERT_TRUE(reread);
+  EXPECT_FALSE(reread->imageData()->isMapped());
+
+  held.pop_back();
+  EXPECT_TRUE(lum::FileData::mayKeepAnotherMapping());
+  EXPECT_TRUE(LumImageFile::imageFileWithURL(temp.path(), nullptr)->imageData()->isMapped());
+}
+
 TEST(HeadOpening, RefusedFilesGiveTheSameError) {
   Bytes notAnImage = {0xFF, 0xD8, 0xFF, 0xE1, 0x00, 0x08, 'E', 'x', 'i', 'f', 0, 0};
   const struct { const char* name; Bytes bytes; } cases[] = {
