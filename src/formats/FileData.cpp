@@ -117,21 +117,24 @@ FileData::MappedWithHead FileData::openWithHead(const std::filesystem::path& pat
   }
   auto head = readOpenFile(file.fd, st, std::min(headLength, size), path, failure);
   if (!head) return {};
-  const FileStamp stamp = FileStamp::ofStat(st);
-  if (reusable && reusable->stamp_ && reusable->isMapped()) {
-    const FileStamp& was = *reusable->stamp_;
-    if (was.device == stamp.device && was.inode == stamp.inode && was.size == stamp.size) {
-      auto restamped = std::make_shared<FileData>(Key{});
-      restamped->stamp_ = stamp;
-      restamped->data_ = reusable->data_;
-      restamped->size_ = reusable->size_;
-      restamped->shared_ = reusable->shared_ ? reusable->shared_ : std::move(reusable);
-      return {std::move(restamped), std::move(head)};
-    }
-  }
+  if (auto same = restamped(std::move(reusable), FileStamp::ofStat(st))) return {std::move(same), std::move(head)};
   auto whole = mapOpenFile(file.fd, st, path, failure);
   if (!whole) return {};
   return {std::move(whole), std::move(head)};
+}
+
+// The bytes of `mapping` with the file's new stamp, when the mapping still
+// shows that file (same device, inode and size); nullptr otherwise.
+std::shared_ptr<const FileData> FileData::restamped(std::shared_ptr<const FileData> mapping, const FileStamp& stamp) {
+  if (!mapping || !mapping->stamp_ || !mapping->isMapped()) return nullptr;
+  const FileStamp& was = *mapping->stamp_;
+  if (was.device != stamp.device || was.inode != stamp.inode || was.size != stamp.size) return nullptr;
+  auto data = std::make_shared<FileData>(Key{});
+  data->stamp_ = stamp;
+  data->data_ = mapping->data_;
+  data->size_ = mapping->size_;
+  data->shared_ = mapping->shared_ ? mapping->shared_ : std::move(mapping);
+  return data;
 }
 
 // Maps the whole of the open, non-empty file read-only.

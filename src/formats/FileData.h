@@ -133,6 +133,7 @@ class FileData {
  private:
   static MappedWithHead openWithHead(const std::filesystem::path& path, std::size_t headLength,
                                      std::shared_ptr<const FileData> reusable, ReadFailure* failure);
+  static std::shared_ptr<const FileData> restamped(std::shared_ptr<const FileData> mapping, const FileStamp& stamp);
   static std::shared_ptr<const FileData> mapOpenFile(int fd, const struct stat& st, const std::filesystem::path& path,
                                                      ReadFailure* failure);
   static std::shared_ptr<const FileData> readOpenFile(int fd, const struct stat& st, std::size_t length,
