@@ -18,11 +18,14 @@ struct Usage {
   const char* command;        // "dates"
   const char* synopsis;       // "lumidate-cli dates [--json] PATH..."
   const char* examples = "";  // printed after the options by --help
+  bool readsFiles = true;     // offers --verbose
 };
 
 // Parses args (args[0] is the command's name). Answers the exit status when
 // the command is done already (--help printed: 0; wrong options: 2), or
-// nullopt when it should go on.
+// nullopt when it should go on. A command that reads files gets --verbose:
+// without it the engine's notes on damaged files are dropped, since each
+// file that fails is reported with its own line anyway.
 std::optional<int> parseCommandLine(QCommandLineParser& parser, const QStringList& args, const Usage& usage);
 
 // "lumidate-cli COMMAND: message" and the synopsis on standard error;

@@ -22,7 +22,7 @@ int runDays(const QStringList& args) {
   parser.addHelpOption();
   parser.addPositionalArgument("DATE1", "First date, e.g. 2024:02:28 or 2024-02-28T10:00:00");
   parser.addPositionalArgument("DATE2", "Second date");
-  const Usage usage{"days", "lumidate-cli days DATE1 DATE2"};
+  const Usage usage{"days", "lumidate-cli days DATE1 DATE2", "", false};
   if (const auto done = parseCommandLine(parser, args, usage)) return *done;
   const QStringList dates = parser.positionalArguments();
   if (dates.size() != 2) return usageError(usage, "give exactly two dates");

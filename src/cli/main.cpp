@@ -3,8 +3,6 @@
 // The plain listing, `dates [--json] PATH...`, runs here without any Qt
 // library; everything else runs in the commands part, loaded on demand from
 // beside the program (build tree) or from its library folder (installed).
-#include <dlfcn.h>
-
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
@@ -15,6 +13,8 @@
 
 #include "cli/CommandsPart.h"
 #include "cli/DatesListing.h"
+#include "cli/PartLoading.h"
+#include "core/ConsoleLog.h"
 
 namespace {
 
@@ -23,9 +23,10 @@ namespace fs = std::filesystem;
 struct PlainListing {
   std::vector<fs::path> paths;
   bool json = false;
+  bool verbose = false;
 };
 
-// `dates` followed only by --json and paths, with at least one path; a
+// `dates` followed only by --json, --verbose and paths, with at least one path; a
 // lone "--" ends the options. Anything else (help, unknown options, no
 // path) is left to the commands part, which parses it and answers in full.
 std::optional<PlainListing> plainListing(int argc, char** argv) {
@@ -36,6 +37,7 @@ std::optional<PlainListing> plainListing(int argc, char** argv) {
     const std::string_view arg = argv[i];
     if (options && arg == "--") options = false;
     else if (options && arg == "--json") listing.json = true;
+    else if (options && arg == "--verbose") listing.verbose = true;
     else if (options && arg.starts_with('-')) return std::nullopt;
     else listing.paths.emplace_back(arg);
   }
@@ -50,33 +52,19 @@ fs::path programFolder() {
   return error ? fs::path() : self.parent_path();
 }
 
-// The handle is never closed: the part loads Qt, which is not made to be
-// unloaded.
-cli::CommandsMain* loadCommands(std::string& failure) {
-  const fs::path folder = programFolder();
-  for (const char* relative : {".", LUMIDATE_CLI_PART_FOLDER}) {
-    const fs::path candidate = (folder / relative / cli::kCommandsPartName).lexically_normal();
-    if (!fs::exists(candidate)) continue;
-    void* part = dlopen(candidate.c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (!part) {
-      failure = dlerror();
-      return nullptr;
-    }
-    if (auto* entry = reinterpret_cast<cli::CommandsMain*>(dlsym(part, cli::kCommandsEntryName))) return entry;
-    failure = candidate.string() + " has no entry " + cli::kCommandsEntryName;
-    return nullptr;
-  }
-  failure = std::string(cli::kCommandsPartName) + " is not installed beside lumidate-cli";
-  return nullptr;
-}
-
 }  // namespace
 
 int main(int argc, char* argv[]) {
-  if (const std::optional<PlainListing> listing = plainListing(argc, argv))
+  if (const std::optional<PlainListing> listing = plainListing(argc, argv)) {
+    // The engine's notes on damaged files are for --verbose: each file that
+    // cannot be opened gets its own line naming the file and the reason.
+    if (!listing->verbose) orb::setLogSink(&orb::logNowhere);
     return cli::listDates(listing->paths, listing->json);
+  }
   std::string failure;
-  cli::CommandsMain* commands = loadCommands(failure);
+  const fs::path folder = programFolder();
+  auto* commands = reinterpret_cast<cli::CommandsMain*>(cli::loadPartEntry(
+      {folder, folder / LUMIDATE_CLI_PART_FOLDER}, cli::kCommandsPartName, cli::kCommandsEntryName, "lumidate-cli", failure));
   if (!commands) {
     std::fprintf(stderr, "lumidate-cli: cannot load its commands (%s)\n", failure.c_str());
     return 1;

@@ -5,6 +5,7 @@
 #include <set>
 
 #include "core/ByteHelpers.h"
+#include "core/ConsoleLog.h"
 #include "core/TextNumber.h"
 
 namespace {
@@ -22,7 +23,7 @@ std::unique_ptr<OrbTiff> OrbTiff::exifWithPtr(orb::ByteView block, const std::ui
   auto tiff = std::make_unique<OrbTiff>();
   std::vector<std::string> lines;
   const bool parsed = tiff->pSearchDataIFDByIFD(block, header, maxLocation, consoleLines ? consoleLines : &lines);
-  for (const std::string& line : lines) std::fprintf(stderr, "%s\n", line.c_str());
+  for (const std::string& line : lines) orb::logLine(line);
   if (!parsed) return nullptr;
   return tiff;
 }

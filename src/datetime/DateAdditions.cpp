@@ -81,10 +81,10 @@ Fields splitOrZero(const Instant& date, const TimeZone& zone) {
 
 }  // namespace
 
-std::optional<Instant> dateWithY(long y, long m, long d) { return build(y, m, d, 0, 0, 0, 0, TimeZone::local()); }
+std::optional<Instant> dateWithY(long y, long m, long d) { return build(y, m, d, 0, 0, 0, 0, TimeZone::gmt()); }
 
 std::optional<Instant> dateWithY(long y, long m, long d, long hour, long minute, long second) {
-  return build(y, m, d, hour, minute, second, 0, TimeZone::local());
+  return build(y, m, d, hour, minute, second, 0, TimeZone::gmt());
 }
 
 std::optional<Instant> dateWithY(long y, long m, long d, const TimeZone& timeZone) {
@@ -103,7 +103,7 @@ std::optional<Instant> dateWithY(long y, long m, long d, long hour, long minute,
 
 bool getYear(const Instant& date, long* year, long* month, long* day, long* dayOfTheWeek, long* hour, long* minute,
              long* second, long* nanosecond, const TimeZone* timeZone, bool* bc) {
-  const auto f = split(date, timeZone ? *timeZone : TimeZone::local());
+  const auto f = split(date, timeZone ? *timeZone : TimeZone::gmt());
   if (!f) return false;
   put(year, f->year);
   put(month, f->month);
@@ -139,6 +139,13 @@ long hour(const Instant& date) { return splitOrZero(date, TimeZone::local()).hou
 long minute(const Instant& date) { return splitOrZero(date, TimeZone::local()).minute; }
 long second(const Instant& date) { return splitOrZero(date, TimeZone::local()).second; }
 
+std::optional<Instant> wallClockIn(const Instant& date, const TimeZone& from, const TimeZone& to) {
+  const auto f = split(date, from);
+  if (!f) return std::nullopt;
+  const long year = f->bc ? -f->year : f->year;
+  return dateWithY(year, f->month, f->day, f->hour, f->minute, f->second, f->nanosecond, to);
+}
+
 long yearWithTimeZone(const Instant& date, const TimeZone& z) { return splitOrZero(date, z).year; }
 long monthWithTimeZone(const Instant& date, const TimeZone& z) { return splitOrZero(date, z).month; }
 long dayWithTimeZone(const Instant& date, const TimeZone& z) { return splitOrZero(date, z).day; }
@@ -148,7 +155,7 @@ long secondWithTimeZone(const Instant& date, const TimeZone& z) { return splitOr
 
 std::string stringDayOfTheWeek(const Instant& date) {
   static constexpr std::array<const char*, 7> kNames = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
-  const long weekday = dayOfTheWeek(date);
+  const long weekday = splitOrZero(date, TimeZone::gmt()).weekday;
   return weekday >= 1 && weekday <= 7 ? kNames[static_cast<std::size_t>(weekday - 1)] : "";
 }
 

@@ -20,7 +20,7 @@
 namespace DateAdditions {
 
 // --- Builders ---------------------------------------------------------------
-// Local zone, year used as an AD year (0 and below count back from 1 AD
+// UTC (a date without a zone is a wall-clock time), year used as an AD year (0 and below count back from 1 AD
 // without an era: 0 is 1 BC).
 std::optional<Instant> dateWithY(long y, long m, long d);
 std::optional<Instant> dateWithY(long y, long m, long d, long hour, long minute, long second);
@@ -35,8 +35,8 @@ std::optional<Instant> dateWithY(long y, long m, long d, long hour, long minute,
 // --- Splitters --------------------------------------------------------------
 // Each writes only the outputs given a place. Years are era years; the BC
 // flag is true in era BC. Weekdays: 1 = Sunday ... 7 = Saturday. A null zone
-// means local. When the local zone cannot describe the instant, nothing is
-// written and the answer is false.
+// means UTC. When the zone cannot describe the instant, nothing is written
+// and the answer is false.
 bool getYear(const Instant& date, long* year, long* month, long* day, long* dayOfTheWeek);
 bool getYear(const Instant& date, long* year, long* month, long* day, long* dayOfTheWeek, long* hour,
              long* minute, long* second);
@@ -45,7 +45,8 @@ bool getYear(const Instant& date, long* year, long* month, long* day, long* dayO
 bool getYear(const Instant& date, long* year, long* month, long* day, long* dayOfTheWeek, long* hour,
              long* minute, long* second, long* nanosecond, const TimeZone* timeZone, bool* bc);
 
-// Single fields, local zone.
+// Single fields in the machine's local zone: what its clock reads, for
+// filling fields with the present time. Dates of photos use the zone forms.
 long year(const Instant& date);
 long month(const Instant& date);
 long day(const Instant& date);
@@ -53,6 +54,10 @@ long dayOfTheWeek(const Instant& date);
 long hour(const Instant& date);
 long minute(const Instant& date);
 long second(const Instant& date);
+// The instant that reads in zone `to` as date reads in zone `from`: the
+// machine's clock (local) shown as a wall-clock date (UTC). None when either
+// zone cannot describe it.
+std::optional<Instant> wallClockIn(const Instant& date, const TimeZone& from, const TimeZone& to);
 // Single fields in the given zone.
 long yearWithTimeZone(const Instant& date, const TimeZone& timeZone);
 long monthWithTimeZone(const Instant& date, const TimeZone& timeZone);
@@ -61,7 +66,7 @@ long hourWithTimeZone(const Instant& date, const TimeZone& timeZone);
 long minuteWithTimeZone(const Instant& date, const TimeZone& timeZone);
 long secondWithTimeZone(const Instant& date, const TimeZone& timeZone);
 
-// Abbreviated English weekday name in the local zone: "Sun" ... "Sat".
+// Abbreviated English weekday name of the date read in UTC: "Sun" ... "Sat".
 std::string stringDayOfTheWeek(const Instant& date);
 
 // --- Text -------------------------------------------------------------------
@@ -71,8 +76,9 @@ std::string stringDayOfTheWeek(const Instant& date);
 //   hms     "09" / "09:05" / "09:05:30", empty when no time was given
 //   subsec  the typed fraction of the second (1..3 digits), empty when none
 //   timeZone "Z", "+09:00" (or "+0900" without colon), empty when none
-// Fields are normalised through the calendar in the text's zone (the local
-// zone when the text has none), so 2019:02:30 becomes 2019-03-02.
+// Fields are normalised through the calendar in the text's zone (UTC when
+// the text has none, so the machine's zone never moves a date), so
+// 2019:02:30 becomes 2019-03-02.
 // allowedYMDH accepts a time of the hour alone ("2019:03:07 09").
 bool getDateTimeStrings(std::string_view text, std::string* ymd, std::string* hms, std::string* subsec,
                         std::string* timeZone, bool timeZoneWithColon, bool allowedYMDH);

@@ -17,7 +17,9 @@
 
 class DateFormatter {
  public:
-  explicit DateFormatter(std::string pattern = "", TimeZone zone = TimeZone::local())
+  // UTC unless told otherwise: dates of photos are wall-clock times kept as
+  // UTC instants, and the machine's zone must not move them.
+  explicit DateFormatter(std::string pattern = "", TimeZone zone = TimeZone::gmt())
       : pattern_(std::move(pattern)), zone_(zone) {}
 
   void setDateFormat(std::string pattern) { pattern_ = std::move(pattern); }

@@ -31,8 +31,10 @@ std::optional<std::pair<std::string, std::string>> splitFraction(const std::stri
   return std::pair{parts[0], parts[1]};
 }
 
+// Texts without a zone are wall-clock times of a camera: they are read in
+// UTC, so the machine's zone never moves them.
 struct ZoneSuffix {
-  TimeZone zone = TimeZone::local();
+  TimeZone zone = TimeZone::gmt();
   std::string text;  // "Z", "+09:00", ... or empty when the text has no zone
 };
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "datetime/CivilCalendar.h"
 #include "datetime/DateAdditions.h"
 
 namespace {
@@ -44,10 +45,10 @@ std::string LumDayCalculator::dayCountText(std::uint64_t days, const FormatLooku
 }
 
 Instant LumDayCalculator::todayInGMT(const Instant& now) {
-  long y = 1, m = 1, d = 1;
-  const TimeZone local = TimeZone::local();
-  DateAdditions::getYear(now, &y, &m, &d, nullptr, nullptr, nullptr, nullptr, &local, nullptr);
-  return DateAdditions::dateWithY(y, m, d, 0, 0, 0, TimeZone::gmt()).value_or(kMiniDate);
+  // Today is the machine's own date; the pickers show it as a UTC date.
+  const auto today = DateAdditions::wallClockIn(now, TimeZone::local(), TimeZone::gmt());
+  if (!today) return kMiniDate;
+  return {civil::floorDiv(today->seconds, 86400) * 86400, 0};
 }
 
 LumDayCalculator::LumDayCalculator(const Instant& now, FormatLookup lookup)

@@ -77,7 +77,7 @@ class OrbDatePicker {
   using Action = std::function<void(OrbDatePicker&)>;
   using Clock = std::function<Instant()>;
 
-  // The initial state: enabled, local zone, all values 0, empty fields.
+  // The initial state: enabled, UTC, all values 0, empty fields.
   // Fields whose flag is false are absent from the layout.
   explicit OrbDatePicker(std::uint8_t style = kStyleSeconds, std::array<bool, kFieldCount> present = allPresent());
   // Withdraws its undo actions, which refer to it; an undo manager set on
@@ -106,7 +106,7 @@ class OrbDatePicker {
 
   // --- Plain state -------------------------------------------------------------
   const Field& field(Control control) const;
-  void setTimeZone(std::optional<TimeZone> zone) { timeZone_ = zone.value_or(TimeZone::local()); }
+  void setTimeZone(std::optional<TimeZone> zone) { timeZone_ = zone.value_or(TimeZone::gmt()); }
   const TimeZone& timeZone() const { return timeZone_; }
   std::uint8_t style() const { return style_; }
   void setStyle(std::uint8_t style);
@@ -208,7 +208,7 @@ class OrbDatePicker {
 
   std::array<Field, kFieldCount> fields_;
   DateTimeValues values_;
-  TimeZone timeZone_ = TimeZone::local();
+  TimeZone timeZone_ = TimeZone::gmt();
   std::uint8_t style_ = kStyleSeconds;
   bool enabled_ = true;
   bool mixed_ = false;

@@ -72,8 +72,10 @@ void OrbDatePicker::step(int stepperValue) {
     return;
   }
   if (!delegate_) return;
-  // A click on "Multiple Values" or an empty picker starts from now.
-  setDateValue(clock_(), TimeZone::local());
+  // A click on "Multiple Values" or an empty picker starts from now, as the
+  // machine's clock reads it; the picker keeps its own zone, so the value it
+  // answers is that wall-clock time and nothing shifts it later.
+  setDateValue(DateAdditions::wallClockIn(clock_(), TimeZone::local(), timeZone_), timeZone_);
   focused_ = firstKeyView();
   stepperValue_ = 0;
   delegate_->dateTimeDidEndEditing(*this, *focused_);

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "core/ConsoleLog.h"
 #include "core/OrbTiff.h"
 #include "datetime/DateAdditions.h"
 #include "datetime/ExifDateText.h"
@@ -104,8 +105,8 @@ std::unique_ptr<LumImageFile> LumImageFile::fromWhole(std::shared_ptr<const lum:
                                                       const lum::ReadFailure& failure, LumError* error) {
   if (!data || data->empty()) {
     if (error && !data)
-      std::fprintf(stderr, "LumImageFile - NSData error %s, %s, %s\n", failure.reason.c_str(),
-                   failure.description.c_str(), failure.recoverySuggestion.c_str());
+      orb::logLine("LumImageFile - NSData error " + failure.reason + ", " + failure.description + ", " +
+                   failure.recoverySuggestion);
     if (error) *error = lumError(-2, data ? "the file is empty" : failure.reason);
     return nullptr;
   }
@@ -137,7 +138,7 @@ std::unique_ptr<LumImageFile> LumImageFile::fromHead(const std::shared_ptr<const
   // same reason: they are printed by the parse that is kept.
   std::vector<std::string> consoleLines;
   if (!file->scan(bytes, head->stampAsOpened()->size, nullptr, &consoleLines) || refused) return nullptr;
-  for (const std::string& line : consoleLines) std::fprintf(stderr, "%s\n", line.c_str());
+  for (const std::string& line : consoleLines) orb::logLine(line);
   file->finishOpening(std::move(keep));
   return file;
 }

@@ -62,7 +62,7 @@ class LumImageFile {
 
   // Opens the file. Answers nullptr on failure with *error (when given) in
   // "LumErrorDomain": -2 for an empty or unreadable file (the read failure is
-  // logged to stderr as "LumImageFile - NSData error ..."), -1 for a file
+  // logged (orb::logLine) as "LumImageFile - NSData error ..."), -1 for a file
   // that is neither JPEG nor TIFF or that the decoder refuses.
   //
   // Holding::DatesOnly is for a caller that reads the dates and lets the

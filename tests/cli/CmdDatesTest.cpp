@@ -107,6 +107,37 @@ TEST_F(CmdDatesFolder, PlainColumnsCountCharactersNotBytes) {
   EXPECT_NE(first.find("2024:05:06"), second.find("2024:05:06"));  // the bytes differ
 }
 
+// The engine's notes on damaged files belong to the application's log; the
+// tool prints them only when asked, from each of its three parts.
+TEST_F(CmdDatesFolder, EngineNotesOnlyWithVerbose) {
+  auto tiff = lumtest::exifTiff({}, {{0x9003, std::string("2024:05:06 07:08:09\0", 20)}});
+  tiff[22] = tiff[23] = tiff[24] = tiff[25] = 0x7F;  // IFD0's next IFD far past the end
+  write("damaged.jpg", lumtest::JpegBuilder().exif(tiff).build());
+  const std::string photo = " " + shellQuoted(root_ / "damaged.jpg");
+  for (const std::string command : {"dates", "dates --json", "info", "shift --dry-run --hours 1"}) {
+    EXPECT_EQ(lumtest::runCli(command + photo).out.find("nextIFDLocation:"), std::string::npos) << command;
+    const auto verbose = lumtest::runCli(command + " --verbose" + photo);
+    EXPECT_EQ(verbose.status, 0) << command;
+    EXPECT_NE(verbose.out.find("nextIFDLocation: (2139062143)"), std::string::npos) << command << verbose.out;
+  }
+}
+
+// Qt Gui comes in with the documents layer, for shift and set alone.
+TEST(CliParts, OnlyTheEditingCommandsLoadQtGui) {
+  const struct {
+    const char* arguments;
+    bool gui;
+  } cases[] = {{"--version", false},         {"--help", false},
+               {"dates --help", false},      {"days 2024:01:01 2024:01:02", false},
+               {"info /nonexistent.jpg", false}, {"shift --hours 1 /nonexistent.jpg", true},
+               {"set --help", true}};
+  for (const auto& c : cases) {
+    const auto run = lumtest::runCli(c.arguments, "LD_DEBUG=libs");
+    EXPECT_NE(run.out.find("libQt6Core.so"), std::string::npos) << c.arguments;
+    EXPECT_EQ(run.out.find("libQt6Gui.so") != std::string::npos, c.gui) << c.arguments;
+  }
+}
+
 TEST(CmdDatesUsage, StatusTwoOnUsageErrorsAndOneForUnreadablePaths) {
   EXPECT_EQ(runDates("").status, 2);
   EXPECT_EQ(runDates("--no-such-option x.jpg").status, 2);

@@ -79,6 +79,7 @@ TEST(DateFormatter, FormatsPatternsInItsZone) {
     EXPECT_EQ(DateFormatter(c.pattern, TimeZone::withSecondsFromGMT(c.offset)).stringFromDate(*c.date), c.text)
         << c.pattern;
   EXPECT_EQ(DateFormatter("yyyy", TimeZone::gmt()).stringFromDate(Instant{INT64_MAX, 0}), "");
+  EXPECT_EQ(DateFormatter("yyyy-MM-dd HH:mm:ss").stringFromDate(date), "2019-03-07 23:05:30");  // UTC by default
 }
 
 TEST(NumberFormatters, SharedFormattersGroupThousands) {
