@@ -22,9 +22,7 @@ TEST(CliDays, WholeDaysInEitherOrderAndRefusals) {
     int status;
     const char* output;  // the whole output, or for refusals and help a part of it
   } cases[] = {
-      {"2024:02:28 2024-03-01", 0, "2 days\n"},
-      {"'2023:03:01 10:00:00' '2023:02:28 10:00:00'", 0, "1 day\n"},
-      {"0001:01:01 9999:12:31", 0, "3652058 days\n"},
+      {"2024:03:01 2024-02-28", 0, "2 days\n"},
       {"'2024:03:01 00:00:00+09:00' 2024:02:29", 0, "0 days\n"},
       // 23.5 and 23.75 hours of wall clock, over the night New York and Lord
       // Howe Island set their clocks back.

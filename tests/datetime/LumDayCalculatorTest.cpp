@@ -33,19 +33,15 @@ TEST(DayCount, CountsWholeDaysInEitherOrder) {
   }
 }
 
-TEST(DayCount, AnyTwoInstantsGiveADistance) {
-  const Instant first{INT64_MIN, 0}, last{INT64_MAX, 999'999'999};
-  EXPECT_EQ(LumDayCalculator::dayCount(first, last), UINT64_MAX / 86400);
-  EXPECT_FALSE(DateAdditions::getYear(last, nullptr, nullptr, nullptr, nullptr));
-  EXPECT_EQ(DateAdditions::tiffDateString(first).size() > 19, true);
-}
-
-TEST(DayCount, UsesTheLocalizedFormatsAsData) {
+// Any two instants give a distance; translated formats are data, and only
+// their first placeholder is filled.
+TEST(DayCount, ExtremesAndLocalizedFormats) {
+  EXPECT_EQ(LumDayCalculator::dayCount(Instant{INT64_MIN, 0}, Instant{INT64_MAX, 999'999'999}), UINT64_MAX / 86400);
   const auto lookup = [](std::string_view key) {
     return std::string(key == "day" ? "%d jour" : "%ld jours %d%%");
   };
   EXPECT_EQ(LumDayCalculator::dayCountText(1, lookup), "1 jour");
-  EXPECT_EQ(LumDayCalculator::dayCountText(5, lookup), "5 jours %d%%") << "only the first placeholder is filled";
+  EXPECT_EQ(LumDayCalculator::dayCountText(5, lookup), "5 jours %d%%");
   EXPECT_EQ(LumDayCalculator::dayCountText(7, [](std::string_view) { return std::string("%s"); }), "%s");
 }
 

@@ -5,7 +5,6 @@
 
 #include "datetime/DateAdditions.h"
 #include "datetime/OrbAdditions.h"
-#include "datetime/ZoneGuard.h"
 
 namespace {
 
@@ -76,27 +75,6 @@ TEST_F(ShiftProperties, CalendarShiftsStayInsideTheMonthAndFormatOrAreRefused) {
     // A text that is not 19 characters long is refused as a start.
     if (result.size() != 19) {
       ASSERT_FALSE(DateAdditions::dateByAddingWithYears(*sum, 0, 0, 0, 0, 0, 0));
-    }
-  }
-}
-
-TEST_F(ShiftProperties, LocalWallTimesReadBackUnlessSkipped) {
-  for (const char* name : {"America/New_York", "Europe/Berlin", "Australia/Lord_Howe", "Asia/Kathmandu"}) {
-    lumtest::ZoneGuard local(name);
-    for (int i = 0; i < 1500; ++i) {
-      const long fields[6] = {uniform(1900, 2100), uniform(1, 12), uniform(1, 28), uniform(0, 23), uniform(0, 59), 0};
-      const TimeZone zone = TimeZone::local();
-      const auto date = DateAdditions::dateWithY(fields[0], fields[1], fields[2], fields[3], fields[4], fields[5], zone);
-      ASSERT_TRUE(date);
-      long back[6] = {};
-      ASSERT_TRUE(DateAdditions::getYear(*date, &back[0], &back[1], &back[2], nullptr, &back[3], &back[4], &back[5],
-                                         &zone, nullptr));
-      const auto wallOf = [](const long* f) {
-        return *DateAdditions::dateWithY(f[0], f[1], f[2], f[3], f[4], f[5], TimeZone::gmt());
-      };
-      // Equal, or moved forward across a skipped hour (at most one hour).
-      const std::int64_t moved = wallOf(back).seconds - wallOf(fields).seconds;
-      ASSERT_TRUE(moved >= 0 && moved <= 3600) << name << " " << DateAdditions::tiffDateString(wallOf(fields));
     }
   }
 }
