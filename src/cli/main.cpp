@@ -1,6 +1,6 @@
 // lumidate-cli: shows and corrects the dates inside photo files from scripts.
 //
-// The plain listing, `dates [--json] PATH...`, runs here without any Qt
+// The plain listing, `dates [--json] [--verbose] PATH...`, runs here without any Qt
 // library; everything else runs in the commands part, loaded on demand from
 // beside the program (build tree) or from its library folder (installed).
 #include <cstdio>

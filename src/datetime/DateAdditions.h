@@ -20,8 +20,8 @@
 namespace DateAdditions {
 
 // --- Builders ---------------------------------------------------------------
-// UTC (a date without a zone is a wall-clock time), year used as an AD year (0 and below count back from 1 AD
-// without an era: 0 is 1 BC).
+// UTC (a date without a zone is a wall-clock time), year used as an AD year
+// (0 and below count back from 1 AD without an era: 0 is 1 BC).
 std::optional<Instant> dateWithY(long y, long m, long d);
 std::optional<Instant> dateWithY(long y, long m, long d, long hour, long minute, long second);
 // The given zone, year as above.

@@ -1,5 +1,6 @@
 // lumidate-cli dates, run as a program: JSON over the real files against
-// their expected records, folder expansion and order, exit statuses.
+// their expected records, folder expansion and order, exit statuses; and
+// what the program's parts load and log.
 #include <gtest/gtest.h>
 
 #include <algorithm>
