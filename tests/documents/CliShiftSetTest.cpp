@@ -50,26 +50,6 @@ TEST_F(CliFixture, UsageErrorsChangeNothing) {
   EXPECT_EQ(readBytes(a), before);
 }
 
-TEST_F(CliFixture, ShiftForwardAndBackRestoresTheFilesExactly) {
-  std::filesystem::remove(b);  // its 0001 date would refuse a backward year
-  const auto beforeA = readBytes(a), beforeC = readBytes(c);
-  CliRun r = runCli("shift --months 1 --hours 1 " + q(folder.path()), "TZ=America/New_York");
-  ASSERT_EQ(r.status, 0) << r.out;
-  EXPECT_EQ(datesOf(a), (DateTargets::Texts{"2020:02:29 11:00:00", "2020:02:29 11:00:00", "2020:02:29 11:00:00"}));
-  EXPECT_EQ(datesOf(c), (DateTargets::Texts{"2020:02:29 11:00:00", std::nullopt, std::nullopt}));
-  EXPECT_NE(r.out.find("2 of 2 files saved"), std::string::npos) << r.out;
-
-  // Month-end clamping is not reversible in general, but 02-29 back one month is 01-29.
-  r = runCli("shift --backward --months 1 --hours 1 " + q(folder.path()), "TZ=Asia/Kolkata");
-  ASSERT_EQ(r.status, 0) << r.out;
-  EXPECT_EQ(datesOf(a)[0], "2020:01:29 10:00:00");
-
-  r = runCli("shift --days 2 " + q(folder.path()));
-  ASSERT_EQ(r.status, 0) << r.out;
-  EXPECT_EQ(readBytes(a), beforeA);
-  EXPECT_EQ(readBytes(c), beforeC);
-}
-
 TEST_F(CliFixture, ADateLeavingTheRangeRefusesTheWholeBatch) {
   const auto beforeA = readBytes(a), beforeB = readBytes(b);
   const CliRun r = runCli("shift --backward --years 1 " + q(folder.path()));
@@ -106,20 +86,20 @@ TEST_F(CliFixture, OnlyTheDatesACommandChangesAreWritten) {
                                                    writePhoto(odd, "l.jpg", {kA, leap, leap}),
                                                    writePhoto(odd, "s.jpg", {kA, sixty, sixty})};
   const struct {
-    std::string args;
+    std::string args, zone;  // no result may depend on the machine's zone
     std::array<PhotoDates, 3> expected;
   } runs[] = {
-      {"shift --hours 1 --only original",
+      {"shift --hours 1 --only original", "TZ=America/New_York",
        {{{zero, zero, zero}, {"2020:01:31 11:00:00", leap, leap}, {"2020:01:31 11:00:00", sixty, sixty}}}},
-      {"set --to '" + set + "' --only edited",
+      {"set --to '" + set + "' --only edited", "",
        {{{zero, zero, set}, {"2020:01:31 11:00:00", leap, set}, {"2020:01:31 11:00:00", sixty, set}}}},
-      {"shift --backward --years 1000",  // 1000 is no leap year: Feb 29 becomes Feb 28
+      {"shift --backward --years 1000", "TZ=Asia/Kolkata",  // 1000 is no leap year: Feb 29 becomes Feb 28
        {{{zero, zero, "1000:02:28 12:34:56"},
          {"1020:01:31 11:00:00", "1019:03:01 10:00:00", "1000:02:28 12:34:56"},
          {"1020:01:31 11:00:00", "1019:03:07 09:06:00", "1000:02:28 12:34:56"}}}},
   };
   for (const auto& run : runs) {
-    const CliRun r = runCli(run.args + " " + q(odd.path()));
+    const CliRun r = runCli(run.args + " " + q(odd.path()), run.zone);
     ASSERT_EQ(r.status, 0) << run.args << "\n" << r.out;
     for (std::size_t i = 0; i < files.size(); ++i) {
       EXPECT_EQ(readBytes(files[i]), photoBytes(run.expected[i])) << run.args << ": " << files[i];
