@@ -29,23 +29,13 @@ struct CliFixture : ::testing::Test {
 
 TEST_F(CliFixture, UsageErrorsChangeNothing) {
   const auto before = readBytes(a);
-  const std::vector<std::string> cases{
-      "shift " + q(a),
-      "shift --years -1 " + q(a),
-      "shift --years 10000 " + q(a),
-      "shift --days 3652059 " + q(a),
-      "shift --hours 1.5 " + q(a),
-      "shift --hours 1 --only original,taken " + q(a),
-      "shift --hours 1",
-      "set " + q(a),
-      "set --to '2023:02:29 10:00:00' " + q(a),
-      "set --to '2023-02-28 10:00:00' " + q(a),
-      "set --to '0000:01:01 00:00:00' " + q(a),
-  };
-  for (const std::string& args : cases) {
-    SCOPED_TRACE(args);
+  for (const std::string& args :
+       {"shift " + q(a), "shift --years -1 " + q(a), "shift --years 10000 " + q(a), "shift --days 3652059 " + q(a),
+        "shift --hours 1.5 " + q(a), "shift --hours 1 --only original,taken " + q(a), std::string("shift --hours 1"),
+        "set " + q(a), "set --to '2023:02:29 10:00:00' " + q(a), "set --to '2023-02-28 10:00:00' " + q(a),
+        "set --to '0000:01:01 00:00:00' " + q(a)}) {
     const CliRun r = runCli(args);
-    EXPECT_EQ(r.status, 2) << r.out;
+    EXPECT_EQ(r.status, 2) << args << "\n" << r.out;
   }
   EXPECT_EQ(readBytes(a), before);
 }

@@ -42,24 +42,29 @@ struct SingleDocFixture : ::testing::Test {
   }
 };
 
-TEST_F(SingleDocFixture, LinkedChangeSetsAllThreeAndOneUndoRestoresThem) {
+TEST_F(SingleDocFixture, LinkedChangeUndoAndRestore) {
   open({kO, kD, kE});
-  // The picker's "yyyy-MM-dd" rendering equals the file's "yyyy:MM:dd" text.
-  EXPECT_FALSE(doc.hasEditedFile());
   EXPECT_FALSE(doc.getTitleForAlertWhenCloseDociment());
-
   doc.setLinked(true);
   type(Original, Ctl::yearField, "2021");
   const std::string changed = "2021:05:06 07:08:09";
   EXPECT_EQ(current(), (Three{changed, changed, changed}));
   EXPECT_EQ(doc.picker(Edited).dateTimeStringForTIFF(), changed);
-  EXPECT_EQ(doc.undoStack().count(), 1);
-  EXPECT_TRUE(doc.validateMenuItem(Doc::MenuCommand::Save));
   ASSERT_TRUE(doc.getTitleForAlertWhenCloseDociment());
   EXPECT_TRUE(doc.getTitleForAlertWhenCloseDociment()->title.contains("photo.jpg"));
 
-  doc.undoStack().undo();
+  doc.undoStack().undo();  // one step for all three
   EXPECT_EQ(current(), (Three{kO, kD, kE}));
+  EXPECT_FALSE(doc.hasEditedFile());
+  EXPECT_FALSE(doc.changeDateWithYears(8000, 0, 0, 0, 0, 0, true, 2));  // past 9999: refused whole
+  EXPECT_EQ(current(), (Three{kO, kD, kE}));
+
+  doc.undoStack().redo();
+  type(Edited, Ctl::minuteField, "59");
+  doc.restore();  // the file's values, with no way back
+  EXPECT_EQ(current(), (Three{kO, kD, kE}));
+  EXPECT_EQ(doc.picker(Edited).dateTimeStringForTIFF(), kE);
+  EXPECT_FALSE(doc.undoStack().canUndo());
   EXPECT_FALSE(doc.hasEditedFile());
 }
 
@@ -84,19 +89,6 @@ TEST_F(SingleDocFixture, ChangeIsRecordedOnlyWhenAnOldValueDiffers) {
     doc.changeDateTimeOriginal(newDates, oldDates);
     EXPECT_EQ(doc.undoStack().count(), recorded);
   }
-}
-
-TEST_F(SingleDocFixture, RestoreTakesTheFileValuesAndClearsTheHistory) {
-  open({kO, kD, kE});
-  EXPECT_FALSE(doc.changeDateWithYears(8000, 0, 0, 0, 0, 0, true, 2));  // past 9999: refused whole
-  EXPECT_EQ(doc.undoStack().count(), 0);
-  doc.changeDateWithYears(1, 0, 0, 0, 0, 0, true, 7);
-  type(Edited, Ctl::minuteField, "59");
-  doc.restore();
-  EXPECT_EQ(current(), (Three{kO, kD, kE}));
-  EXPECT_EQ(doc.picker(Edited).dateTimeStringForTIFF(), kE);
-  EXPECT_FALSE(doc.undoStack().canUndo());
-  EXPECT_FALSE(doc.hasEditedFile());
 }
 
 // What is on disk after an edit and a save, against a photo built with the
