@@ -8,6 +8,7 @@
 #include "core/OrbTiff.h"
 #include "formats/ImageFileTestSupport.h"
 #include "formats/ShownRecord.h"
+#include "support/DateScanAgreement.h"
 #include "support/TestData.h"
 
 namespace {
@@ -39,12 +40,29 @@ TEST(RealFiles, EveryFileAgreesWithItsExpectedRecord) {
       const json got = shown(*file);
       std::set<std::string> skipped;
       for (const auto& field : expected.at("ambiguous")) skipped.insert(field.is_string() ? field.get<std::string>() : "");
+      // A listing holds no TIFF structure, only the texts it prints.
+      if (holding == LumImageFile::Holding::DatesOnly) skipped.insert({"tiffHeaderLocation", "date_offsets"});
       for (const auto& [key, value] : got.items()) {
         if (!skipped.count(key)) {
           EXPECT_EQ(value, expected.at(key)) << key;
         }
       }
     }
+  }
+}
+
+// The date scan reads what the full parse reads, for every file with a TIFF
+// structure, from the whole file and from the head a listing tries first.
+TEST(RealFiles, DateScanAgreesWithTheFullParse) {
+  LUMTEST_REQUIRE_REAL_DATA();
+  for (const std::string& name : lumtest::realFileNames()) {
+    SCOPED_TRACE(name);
+    const auto file = LumImageFile::imageFileWithURL(*lumtest::realDataDir() / name, nullptr);
+    if (!file || !file->tiff()) continue;
+    const orb::ByteView bytes = file->imageData()->bytes();
+    const orb::ByteView head(bytes.data(), std::min(bytes.size(), LumImageFile::kHeadBytes[0]));
+    for (const orb::ByteView block : {bytes, head})
+      EXPECT_EQ(lumtest::dateScanDisagreement(block, file->tiff()->tiffHeaderLocation(), bytes.size()), "");
   }
 }
 
