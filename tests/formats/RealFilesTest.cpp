@@ -8,7 +8,6 @@
 #include "core/OrbTiff.h"
 #include "formats/ImageFileTestSupport.h"
 #include "formats/ShownRecord.h"
-#include "support/DateScanAgreement.h"
 #include "support/TestData.h"
 
 namespace {
@@ -48,21 +47,6 @@ TEST(RealFiles, EveryFileAgreesWithItsExpectedRecord) {
         }
       }
     }
-  }
-}
-
-// The date scan reads what the full parse reads, for every file with a TIFF
-// structure, from the whole file and from the head a listing tries first.
-TEST(RealFiles, DateScanAgreesWithTheFullParse) {
-  LUMTEST_REQUIRE_REAL_DATA();
-  for (const std::string& name : lumtest::realFileNames()) {
-    SCOPED_TRACE(name);
-    const auto file = LumImageFile::imageFileWithURL(*lumtest::realDataDir() / name, nullptr);
-    if (!file || !file->tiff()) continue;
-    const orb::ByteView bytes = file->imageData()->bytes();
-    const orb::ByteView head(bytes.data(), std::min(bytes.size(), LumImageFile::kHeadBytes[0]));
-    for (const orb::ByteView block : {bytes, head})
-      EXPECT_EQ(lumtest::dateScanDisagreement(block, file->tiff()->tiffHeaderLocation(), bytes.size()), "");
   }
 }
 
