@@ -201,10 +201,12 @@ bool LumImageFile::scan(orb::ByteView data, std::uint64_t fileSize, LumError* er
     if (error) *error = lumError(-1, check.message);
     return false;
   }
-  if (headerLocation && !(holding_ == Holding::DatesOnly && takeDates(data, *headerLocation, fileSize, consoleLines))) {
-    const std::uint64_t location = *headerLocation;
-    tiff_ = OrbTiff::exifWithPtr(data, &location, fileSize, consoleLines);
-  }
+  if (!headerLocation) return true;
+  // A file held for its dates alone is spared the structure's entry objects
+  // whenever the date scan gives what the structure would.
+  if (holding_ == Holding::DatesOnly && takeDates(data, *headerLocation, fileSize, consoleLines)) return true;
+  const std::uint64_t location = *headerLocation;
+  tiff_ = OrbTiff::exifWithPtr(data, &location, fileSize, consoleLines);
   return true;
 }
 
