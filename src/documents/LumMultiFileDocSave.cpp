@@ -105,8 +105,9 @@ void LumMultiFileDoc::flushSaved(std::vector<SaveResult>& results, const std::ve
 }
 
 // Runs on the save thread: saves every job, a batch of files at a time. The
-// files of a batch are written by several threads, then flushed together;
-// progress reaches the document's thread as each batch is flushed, since a
+// files of a batch are written by several threads, then flushed together,
+// while the next batch is written: the disk works while the cores do.
+// Progress reaches the document's thread as each batch is flushed, since a
 // file counts as saved only once its bytes are on the disk. The results keep
 // the order of the jobs.
 std::shared_ptr<std::vector<LumMultiFileDoc::SaveResult>> LumMultiFileDoc::saveJobs(const std::vector<SaveJob>& jobs,
@@ -126,7 +127,10 @@ std::shared_ptr<std::vector<LumMultiFileDoc::SaveResult>> LumMultiFileDoc::saveJ
                                 Qt::QueuedConnection);
     }
   };
-  // The descriptors a batch keeps open for its flush are bounded by its size.
+  // One batch is written while the one before is flushed, so at most two
+  // batches of descriptors are open at once. The flushes run one after the
+  // other, in order.
+  std::jthread flusher;
   const std::size_t perBatch = std::max<std::size_t>(hooks.filesPerFlush, 1);
   for (std::size_t first = 0; first < groups.size(); first += perBatch) {
     const std::size_t end = std::min(groups.size(), first + perBatch);
@@ -142,9 +146,13 @@ std::shared_ptr<std::vector<LumMultiFileDoc::SaveResult>> LumMultiFileDoc::saveJ
     }
     std::vector<std::size_t> batch;
     for (std::size_t g = first; g < end; ++g) batch.insert(batch.end(), groups[g].begin(), groups[g].end());
-    flushSaved(*results, batch, hooks.flush);
-    reportProgress(batch);
+    if (flusher.joinable()) flusher.join();
+    flusher = std::jthread([&results = *results, &hooks, &reportProgress, batch = std::move(batch)] {
+      flushSaved(results, batch, hooks.flush);
+      reportProgress(batch);
+    });
   }
+  if (flusher.joinable()) flusher.join();
   return results;
 }
 
