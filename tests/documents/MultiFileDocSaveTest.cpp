@@ -200,18 +200,12 @@ TEST_F(SaveFixture, SavingTheSelectionOnly) {
   EXPECT_TRUE(item("b.jpg").isEdited());
 }
 
-}  // namespace
-
-namespace {
-
 TEST_F(SaveFixture, ThumbnailsAreMadeInTheBackgroundAndSurviveASave) {
   open({{"a.jpg", {kA, kA, kA}}});
-  QEventLoop loop;
-  QObject::connect(doc.get(), &Doc::thumbnailReady, &loop, &QEventLoop::quit);
-  QTimer::singleShot(20000, &loop, &QEventLoop::quit);
+  QSignalSpy ready(doc.get(), &Doc::thumbnailReady);
   doc->requestThumbnail(0);
   doc->requestThumbnail(0);  // one job per file
-  loop.exec();
+  ASSERT_TRUE(ready.wait(20000));
   ASSERT_TRUE(item("a.jpg").imageFile().thumbnail());
   doc->controlTextDidEndEditing(0, "DateTime", "2001:01:01 01:01:01", false);
   EXPECT_TRUE(save().failures.empty());

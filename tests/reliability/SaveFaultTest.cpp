@@ -148,12 +148,6 @@ TEST(SaveFaults, AWriteThatFailsPartWayIsReportedAndNeverMovesBytesOutsideTheDat
 
 // ---- a flush that fails -----------------------------------------------------------
 
-// What the file that an open descriptor refers to is called.
-fs::path pathOfDescriptor(int fd) {
-  std::error_code ec;
-  return fs::read_symlink("/proc/self/fd/" + std::to_string(fd), ec);
-}
-
 TEST(SaveFaults, AFailedFlushFailsTheFilesItCoveredAndNoOther) {
   LUMTEST_REQUIRE_REAL_DATA();
   ScratchFolder folder;
@@ -163,25 +157,28 @@ TEST(SaveFaults, AFailedFlushFailsTheFilesItCoveredAndNoOther) {
     reltest::writeAll(folder.path() / photo->name, photo->bytes);
   }
   std::vector<fs::path> paths;
-  for (const auto& [path, photo] : photos) paths.push_back(path);
+  for (const auto& entry : photos) paths.push_back(entry.first);
   auto doc = reltest::openDocument(paths);
-  std::erase_if(photos, [&](const auto& entry) { return !doc->itemForURL(entry.first); });  // not a photo it opens
-  ASSERT_GE(photos.size(), 4u);
-  // Every date the file holds is typed anew, so the file must end as intended.
+  // Every date a photo shows is typed anew, so each file must end as intended;
+  // a file the document does not open, or whose dates it does not show, plays no part.
   constexpr const char* kColumns[] = {"DateTimeOriginal", "DateTimeDigitized", "DateTime"};
-  for (const auto& [path, photo] : photos)
+  std::erase_if(photos, [&](const auto& entry) {
+    LumFileItemDoc* item = doc->itemForURL(entry.first);
     for (const DateTargets::Target& t : DateTargets::kTargets)
-      if (doc->itemForURL(path)->dateText(t.index))
-        doc->controlTextDidEndEditing(*doc->rowOf(doc->itemForURL(path)), kColumns[t.index], reltest::kNewDate, false);
-  std::erase_if(photos, [&](const auto& entry) { return !doc->itemForURL(entry.first)->isEdited(); });  // no date shown
+      if (item && item->dateText(t.index))
+        doc->controlTextDidEndEditing(*doc->rowOf(item), kColumns[t.index], reltest::kNewDate, false);
+    return !item || !item->isEdited();
+  });
 
-  // Two files a flush; every second flush fails.
+  // Two files a flush; every second flush fails, and the file it went through
+  // must be among the failures.
   int flushes = 0;
   std::set<fs::path> failedFlushes;
   doc->setFlushFunction(
       [&](int fd) {
         if (++flushes % 2) return ::syncfs(fd);
-        failedFlushes.insert(pathOfDescriptor(fd));
+        std::error_code ec;
+        failedFlushes.insert(fs::read_symlink("/proc/self/fd/" + std::to_string(fd), ec));
         return errno = EIO, -1;
       },
       2);
@@ -194,7 +191,7 @@ TEST(SaveFaults, AFailedFlushFailsTheFilesItCoveredAndNoOther) {
     failed.insert(f.path);
     EXPECT_EQ(f.reason, errnoText(EIO)) << f.path;
   }
-  for (const fs::path& p : failedFlushes) EXPECT_EQ(failed.count(p), 1u) << p << " was covered by a failed flush";
+  EXPECT_TRUE(std::includes(failed.begin(), failed.end(), failedFlushes.begin(), failedFlushes.end()));
   for (const auto& [path, photo] : photos) {
     SCOPED_TRACE(path.filename().string());
     // A failed file keeps its edit to be saved again; its bytes were written,
