@@ -53,10 +53,13 @@ std::pair<fs::file_type, std::vector<std::uint8_t>> snapshot(const fs::path& p) 
   return {type, type == fs::file_type::regular ? readBytes(p) : std::vector<std::uint8_t>{}};
 }
 
+// Writing in place needs no new entry in the folder, so a read-only folder
+// does not stop it, and nothing else is left there.
 TEST(InPlaceWriter, ChangesExactlyThePatchedBytesWithOneWriteOverTheirSpan) {
   TempFolder folder;
   const fs::path file = folder / "photo.jpg";
   writeBytes(file, kBefore);
+  ::chmod(folder.path().c_str(), 0555);
   const std::vector<BytePatch> patches{{196, kDate}, {40, kDate}, {300, kDate}};
   std::vector<std::pair<off_t, std::size_t>> calls;
   const WriteFunction spy = [&](int fd, const void* buf, std::size_t n, off_t off) {
@@ -68,6 +71,7 @@ TEST(InPlaceWriter, ChangesExactlyThePatchedBytesWithOneWriteOverTheirSpan) {
   EXPECT_EQ(readBytes(file), patched(patches));
   EXPECT_EQ(calls, (std::vector<std::pair<off_t, std::size_t>>{{40, 300 + 19 - 40}}));
   EXPECT_EQ(result.stamp, identityOfFile(file));
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator()), 1);
   // Nothing to write: nothing held open for a flush.
   const UnflushedWrite nothing = writeWithoutFlush(file, *identityOfFile(file), {});
   EXPECT_TRUE(nothing.result.ok);
