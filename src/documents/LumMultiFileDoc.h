@@ -20,10 +20,10 @@
 #include <string_view>
 #include <vector>
 
+#include "documents/BatchFlush.h"
 #include "documents/DateTargets.h"
 #include "documents/DateTextRules.h"
 #include "documents/FieldLimits.h"
-#include "documents/BatchFlush.h"
 #include "documents/InPlaceWriter.h"
 #include "documents/LumDateSet.h"
 #include "documents/LumFileItemDoc.h"
@@ -186,7 +186,8 @@ class LumMultiFileDoc : public QObject {
   // Replaces the system write (tests make it fail part way). A save calls it
   // from several threads at once.
   void setWriteFunction(InPlaceWriter::WriteFunction write) { writeFunction_ = std::move(write); }
-  // A save writes this many files, then flushes them together.
+  // A save writes this many files, then flushes them together while it
+  // writes the next as many; so it holds at most twice as many descriptors.
   static constexpr std::size_t kFilesPerFlush = 256;
   // Replaces the file system flush (tests make it fail) and the number of
   // files one flush covers.
