@@ -23,8 +23,9 @@ const char* const kExamples =
     "\nEach count is a whole number from 0 (years up to 9999, days up to 3652058,\n"
     "the others up to 99999); at least one must be non-zero. When any date would\n"
     "leave 0001:01:01 00:00:00 .. 9999:12:31 23:59:59, nothing is written and the\n"
-    "offending files are listed (exit status 2). Exit status 1 when some files\n"
-    "could not be saved.\n";
+    "offending files are listed (exit status 2). A date of all zeros\n"
+    "(0000:00:00 00:00:00, a camera's unknown date) is left as it is. Exit\n"
+    "status 1 when some files could not be saved.\n";
 
 const cli::Usage kUsage{"shift",
                         "lumidate-cli shift [--backward] [--years N] [--months N] [--days N] [--hours N] "

@@ -62,8 +62,24 @@ std::optional<std::int64_t> quickShift(const std::string& text, const Offsets& o
 
 }  // namespace
 
+bool shiftPassesOver(const std::optional<std::string>& text) {
+  // A longer value keeps its tail after the 19 characters; only the date counts.
+  return text && std::string_view(*text).substr(0, kZeroDate.size()) == kZeroDate;
+}
+
+Offsets directed(const Offsets& offsets, bool forward) {
+  Offsets result = offsets;
+  if (!forward)
+    for (long& v : result) v = -v;
+  return result;
+}
+
+std::optional<Instant> shiftedDate(const Instant& date, const Offsets& o) {
+  return DateAdditions::dateByAddingWithYears(date, o[0], o[1], o[2], o[3], o[4], o[5]);
+}
+
 std::optional<std::string> shiftedDateTimeString(const std::optional<std::string>& text, const Offsets& o) {
-  if (!text) return std::nullopt;
+  if (!text || shiftPassesOver(text)) return std::nullopt;
   if (const std::optional<std::int64_t> shifted = quickShift(*text, o)) return ExifDateText::textOf(*shifted);
   const std::optional<Instant> date = DateAdditions::dateWithDateTimeString(*text);
   if (!date) return std::nullopt;
@@ -75,12 +91,12 @@ std::optional<std::string> shiftedDateTimeString(const std::optional<std::string
 }
 
 bool shiftLeavesRange(const std::optional<std::string>& text, const Offsets& o) {
-  if (!text || text->empty()) return false;
+  if (!text || text->empty() || shiftPassesOver(text)) return false;
   if (const std::optional<std::int64_t> shifted = quickShift(*text, o))
     return *shifted < kMiniDate.seconds || *shifted > kMaxDate.seconds;
   const std::optional<Instant> date = DateAdditions::dateWithDateTimeString(*text);
   if (!date) return false;
-  const std::optional<Instant> shifted = DateAdditions::dateByAddingWithYears(*date, o[0], o[1], o[2], o[3], o[4], o[5]);
+  const std::optional<Instant> shifted = shiftedDate(*date, o);
   return shifted && (*shifted < kMiniDate || *shifted > kMaxDate);
 }
 

@@ -2,6 +2,7 @@
 
 #include "datetime/DateAdditions.h"
 #include "datetime/TimeZone.h"
+#include "documents/DateTextRules.h"
 #include "documents/LumDateLimits.h"
 #include "documents/LumSingleFileDoc.h"
 
@@ -45,15 +46,13 @@ LumCTISheet::Preview LumCTISheet::previewOf(const Instant& shifted) {
 }
 
 void LumCTISheet::_changeDateByUI() {
-  const long sign = forward_ ? 1 : -1;
+  // The same arithmetic as the document's shift, so OK does what is shown.
+  const DateTextRules::Offsets offsets = DateTextRules::directed(fields_, forward_);
   for (const DateTargets::Target& t : DateTargets::kTargets) {
     Preview& preview = previews_[t.index];
     preview = {};
     if (!isTarget(t.index) || !dates_[t.index]) continue;
-    const std::optional<Instant> shifted =
-        DateAdditions::dateByAddingWithYears(*dates_[t.index], sign * fields_[Year], sign * fields_[Month],
-                                             sign * fields_[Day], sign * fields_[Hour], sign * fields_[Minute],
-                                             sign * fields_[Second]);
+    const std::optional<Instant> shifted = DateTextRules::shiftedDate(*dates_[t.index], offsets);
     // A start the arithmetic refuses cannot give a date inside the range.
     preview = shifted ? previewOf(*shifted) : Preview{kOutOfRangeMark, true};
   }

@@ -31,8 +31,8 @@ class LumCTISheet {
     bool outOfRange = false;
   };
 
-  // Keeps the dates of the enabled pickers (none for the others) and shows
-  // their previews.
+  // Keeps the dates the document will shift (its valuesForIntervalSheet:
+  // none for a date that is left alone) and shows their previews.
   void setUpWithOriginalDate(std::optional<Instant> original, std::optional<Instant> digitized,
                              std::optional<Instant> edited);
   const Dates& dates() const { return dates_; }

@@ -62,7 +62,12 @@ bool LumFileItemDoc::noDateTimes() const {
 }
 
 std::vector<InPlaceWriter::BytePatch> LumFileItemDoc::datePatches() const {
-  return DateRewrite::patchesForTexts(DateRewrite::locationsOf(*imageFile_), texts_);
+  // Only the texts a user's action changed: a date left as the file has it
+  // is not written, not even with its own bytes.
+  DateTargets::Texts changed;
+  for (const DateTargets::Target& t : DateTargets::kTargets)
+    if (texts_[t.index] != originalText(t.index)) changed[t.index] = texts_[t.index];
+  return DateRewrite::patchesForTexts(DateRewrite::locationsOf(*imageFile_), changed);
 }
 
 LumFileItemDoc::NameKey LumFileItemDoc::nameKey(const std::string& text) {

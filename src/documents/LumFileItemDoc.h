@@ -58,7 +58,7 @@ class LumFileItemDoc : public LumImageFileOwner {
   // True when none of the three current texts is present.
   bool noDateTimes() const;
 
-  // Where the current texts go in the file, 19 bytes each.
+  // Where the texts that differ from the file's go in it, 19 bytes each.
   std::vector<InPlaceWriter::BytePatch> datePatches() const;
 
   // Table comparisons: negative, zero or positive like strcmp.

@@ -180,10 +180,7 @@ void LumMultiFileDoc::setEditTargetMask(unsigned mask) {
 bool LumMultiFileDoc::allFieldsZero() const { return !anyFieldNonZero(fields_); }
 
 DateTextRules::Offsets LumMultiFileDoc::signedOffsets() const {
-  DateTextRules::Offsets offsets = fields_;
-  if (actionMode_ == LumActionMode::Backward)
-    for (long& v : offsets) v = -v;
-  return offsets;
+  return DateTextRules::directed(fields_, actionMode_ != LumActionMode::Backward);
 }
 
 void LumMultiFileDoc::_checkDateChanged() {

@@ -2,6 +2,7 @@
 
 #include "datetime/DateAdditions.h"
 #include "datetime/TimeZone.h"
+#include "documents/DateTextRules.h"
 #include "documents/LumCTISheet.h"
 #include "documents/LumDateLimits.h"
 #include "documents/LumLocalized.h"
@@ -12,13 +13,6 @@ namespace {
 
 constexpr LumDateField kFileFields[DateTargets::kCount] = {LumDateField::DateTimeOriginal,
                                                            LumDateField::DateTimeDigitized, LumDateField::DateTime};
-
-// A picker's rendering "yyyy-MM-dd HH:mm:ss" in the Exif form, so that it
-// compares with the file's text; any other rendering is left as it is.
-std::string exifFormOfRendering(std::string text) {
-  if (text.size() == 19 && text[4] == '-' && text[7] == '-') text[4] = text[7] = ':';
-  return text;
-}
 
 }  // namespace
 
@@ -68,7 +62,16 @@ void LumSingleFileDoc::updateUI() {
   updateDateTime();
   buttonsEnabled_ = false;
   for (const auto& picker : pickers_) buttonsEnabled_ = buttonsEnabled_ || picker->isEnabled();
+  rememberShownDates();
   emit datesChanged();
+}
+
+void LumSingleFileDoc::rememberShownDates() {
+  for (const DateTargets::Target& t : DateTargets::kTargets) shown_[t.index] = picker(t.index).dateTimeString();
+}
+
+bool LumSingleFileDoc::pickerChanged(DateTargets::Index which) const {
+  return fileHasDate(which) && picker(which).dateTimeString() != shown_[which];
 }
 
 void LumSingleFileDoc::updateDate(DateTargets::Index which) {
@@ -122,8 +125,14 @@ void LumSingleFileDoc::applyDates(const Dates& dates) {
 
 LumSingleFileDoc::Dates LumSingleFileDoc::valuesForIntervalSheet() const {
   Dates values;
-  for (const DateTargets::Target& t : DateTargets::kTargets)
-    if (picker(t.index).isEnabled()) values[t.index] = picker(t.index).dateValue();
+  for (const DateTargets::Target& t : DateTargets::kTargets) {
+    // An untouched picker stands for the file's text, and a shift passes
+    // some texts over whatever the picker makes of them.
+    const bool passedOver =
+        !pickerChanged(t.index) && imageFile_ &&
+        DateTextRules::shiftPassesOver(imageFile_->originalString(kFileFields[t.index]));
+    if (picker(t.index).isEnabled() && !passedOver) values[t.index] = picker(t.index).dateValue();
+  }
   return values;
 }
 
@@ -135,12 +144,15 @@ void LumSingleFileDoc::showChangeByTimeIntervalSheet(LumCTISheet& sheet) const {
 
 bool LumSingleFileDoc::changeDateWithYears(long years, long months, long days, long hours, long minutes,
                                            long seconds, bool forward, unsigned targetMask) {
-  const long sign = forward ? 1 : -1;
+  const DateTextRules::Offsets offsets =
+      DateTextRules::directed({years, months, days, hours, minutes, seconds}, forward);
+  // The values the sheet previewed, not current_: a disabled picker's date
+  // may hold a linked value that no preview showed.
+  const Dates from = valuesForIntervalSheet();
   Dates newDates = current_;
   for (const DateTargets::Target& t : DateTargets::kTargets) {
-    if ((targetMask & t.maskBit) == 0 || !current_[t.index]) continue;
-    const std::optional<Instant> shifted = DateAdditions::dateByAddingWithYears(
-        *current_[t.index], sign * years, sign * months, sign * days, sign * hours, sign * minutes, sign * seconds);
+    if ((targetMask & t.maskBit) == 0 || !from[t.index]) continue;
+    const std::optional<Instant> shifted = DateTextRules::shiftedDate(*from[t.index], offsets);
     if (!shifted || !LumDateLimits::isInRange(*shifted)) return false;
     newDates[t.index] = shifted;
   }
@@ -156,12 +168,8 @@ void LumSingleFileDoc::restore() {
 // --- State and queries ------------------------------------------------------------
 
 bool LumSingleFileDoc::hasEditedFile() const {
-  if (!imageFile_) return false;
-  for (const DateTargets::Target& t : DateTargets::kTargets) {
-    const std::string shown = exifFormOfRendering(picker(t.index).dateTimeString().value_or(std::string()));
-    const std::optional<std::string>& original = imageFile_->originalString(kFileFields[t.index]);
-    if (original && !original->empty() && *original != shown) return true;
-  }
+  for (const DateTargets::Target& t : DateTargets::kTargets)
+    if (pickerChanged(t.index)) return true;
   return false;
 }
 

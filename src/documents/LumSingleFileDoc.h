@@ -10,6 +10,13 @@
 // A picker whose date the file lacks stays disabled for the document's life:
 // a linked change still stores a current value for it, but it is never
 // written.
+//
+// The lenient reader rolls texts over ("2019:02:29" shows as March 1st,
+// "0000:00:00 00:00:00" as a day in year 2), so what a picker shows may
+// differ from the file's text without anyone having touched it. The
+// document therefore remembers what each picker showed when the file was
+// opened or last saved: only a picker that differs from that is an edit,
+// and only such a date is written.
 
 #include <QObject>
 #include <QString>
@@ -94,22 +101,25 @@ class LumSingleFileDoc : public QObject, public LumImageFileOwner, private OrbDa
                               std::optional<Instant> oldDigitized, std::optional<Instant> oldDateTime) {
     changeDateTimeOriginal(Dates{original, digitized, dateTime}, Dates{oldOriginal, oldDigitized, oldDateTime});
   }
-  // The values handed to the change-by-interval sheet: the enabled pickers'
-  // values, none for a disabled picker.
+  // The values a shift by interval works on, handed to the sheet for its
+  // preview: the enabled pickers' values; none for a disabled picker and for
+  // a date a shift passes over (the file's zero date, still untouched).
   Dates valuesForIntervalSheet() const;
   // Hands those values to the application's sheet before it is shown.
   void showChangeByTimeIntervalSheet(LumCTISheet& sheet) const;
   // Shifts the dates in targetMask (bits 1 original, 2 digitized, 4 edited)
-  // by the six counts, backward unless forward. A date without a value keeps
-  // none. False, with nothing changed, when a result would leave the
-  // program's range of dates.
+  // that valuesForIntervalSheet() gives, by the six counts, backward unless
+  // forward: exactly what the sheet previewed. Every other date keeps its
+  // current value. False, with nothing changed, when a result would leave
+  // the program's range of dates.
   bool changeDateWithYears(long years, long months, long days, long hours, long minutes, long seconds, bool forward,
                            unsigned targetMask);
   // The file's values again; this cannot be undone and clears the history.
   void restore();
 
   // --- State and queries --------------------------------------------------------
-  // True when some picker shows a date other than the file's.
+  // True when some picker shows a date other than it showed when the file
+  // was opened or last saved.
   bool hasEditedFile() const;
   std::size_t editedFileCount() const { return hasEditedFile() ? 1 : 0; }
   LumImageFile* selectedImageFile() const { return imageFile_.get(); }
@@ -124,7 +134,8 @@ class LumSingleFileDoc : public QObject, public LumImageFileOwner, private OrbDa
   void windowWillClose(bool wasMain, bool onlyDocument);
 
   // --- Saving ---------------------------------------------------------------------
-  // The enabled pickers' dates, none for the others: what a save writes.
+  // The dates of the pickers changed since opening or the last save, none
+  // for the others: what a save writes.
   Dates pickerDatesToWrite() const;
   // The file's bytes with the picker dates written in (a copy).
   std::vector<std::uint8_t> pMakeNewDateWithData(orb::ByteView data) const;
@@ -149,11 +160,17 @@ class LumSingleFileDoc : public QObject, public LumImageFileOwner, private OrbDa
   // The file has this date (so its picker may be enabled and written).
   bool fileHasDate(DateTargets::Index which) const;
   void replaceImageFile(std::unique_ptr<LumImageFile> file);
+  // The picker shows something else than when the file was opened or saved.
+  bool pickerChanged(DateTargets::Index which) const;
+  // What the pickers show now becomes the unchanged state.
+  void rememberShownDates();
 
   std::array<std::unique_ptr<OrbDatePicker>, DateTargets::kCount> pickers_;
   std::unique_ptr<LumImageFile> imageFile_;
   std::optional<std::filesystem::path> fileURL_;
   Dates current_{};
+  // Each picker's rendering when the file was opened or last saved.
+  std::array<std::optional<std::string>, DateTargets::kCount> shown_{};
   bool linked_ = false;
   bool buttonsEnabled_ = false;
   QUndoStack undoStack_;

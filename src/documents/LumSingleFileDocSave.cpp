@@ -11,9 +11,9 @@ LumSingleFileDoc::Dates LumSingleFileDoc::pickerDatesToWrite() const {
   Dates dates;
   for (const DateTargets::Target& t : DateTargets::kTargets) {
     const OrbDatePicker& p = picker(t.index);
-    // A disabled picker, or an enabled one left without a complete value,
-    // has nothing to write.
-    if (p.isEnabled() && fileHasDate(t.index) && p.dateTimeString())
+    // A disabled picker, one left without a complete value, or one showing
+    // what it showed at opening has nothing to write.
+    if (p.isEnabled() && pickerChanged(t.index) && p.dateTimeString())
       dates[t.index] = p.dateValueWithTimeZone(TimeZone::gmt());
   }
   return dates;
@@ -42,6 +42,7 @@ bool LumSingleFileDoc::saveFileAll(bool /*all*/, bool closeAfterSave, bool quitA
     // are what is on disk now. Should that fail, the old model stays.
     if (std::unique_ptr<LumImageFile> reread = LumImageFile::imageFileAfterSave(*fileURL_, imageFile_->imageData()))
       replaceImageFile(std::move(reread));
+    rememberShownDates();
     outcome.closeDocument = closeAfterSave;
     outcome.continueQuit = quitApp;
   } else {

@@ -70,8 +70,10 @@ class LumImageFile {
   // file's first kHeadBytes[0] bytes alone whenever the scan provably found
   // everything it looked for there, else from the first kHeadBytes[1]; only
   // a file whose scan wanted more is read whole. Such an object's
-  // imageData() may be that head, so it serves for its dates and TIFF
-  // structure, never for saving or decoding.
+  // imageData() may be that head, so it serves for its dates, never for
+  // saving or decoding. The dates are read without building the TIFF
+  // structure wherever that gives the same texts: tiff() is then null and
+  // dateValueOffset() answers nothing.
   //
   // Holding::Kept (a document) keeps a mapping of the whole file, but a JPEG
   // is parsed from a copy of its first kHeadBytes[0] bytes when that
@@ -196,19 +198,27 @@ class LumImageFile {
   // Opens from the whole file's bytes, or reports why there are none
   // (failure, or an empty file).
   static std::unique_ptr<LumImageFile> fromWhole(std::shared_ptr<const lum::FileData> data,
-                                                 const lum::ReadFailure& failure, LumError* error);
-  static std::unique_ptr<LumImageFile> fromData(std::shared_ptr<const lum::FileData> data, LumError* error);
+                                                 const lum::ReadFailure& failure, LumError* error,
+                                                 Holding holding = Holding::Kept);
+  static std::unique_ptr<LumImageFile> fromData(std::shared_ptr<const lum::FileData> data, LumError* error,
+                                                Holding holding);
   // Opens from the head of a JPEG when its scan provably found all it
   // needed there, keeping `keep` (the head itself, or the whole file's
   // mapping); nullptr otherwise.
   static std::unique_ptr<LumImageFile> fromHead(const std::shared_ptr<const lum::FileData>& head,
-                                                std::shared_ptr<const lum::FileData> keep);
+                                                std::shared_ptr<const lum::FileData> keep,
+                                                Holding holding = Holding::Kept);
   // The work of searchImageDataAndMakeExifObject(), bounded by the size of
   // the whole file, which the bytes may only begin. Console lines of the
   // TIFF parse go to consoleLines when given (see OrbTiff::exifWithPtr).
   bool scan(orb::ByteView data, std::uint64_t fileSize, LumError* error,
             std::vector<std::string>* consoleLines = nullptr);
   void finishOpening(std::shared_ptr<const lum::FileData> data);
+  // Sets the six original strings straight from the bytes, for a file held
+  // for its dates only; false (nothing set) when that cannot give what the
+  // TIFF structure would.
+  bool takeDates(orb::ByteView data, std::uint64_t headerLocation, std::uint64_t fileSize,
+                 std::vector<std::string>* consoleLines);
 
   std::shared_ptr<const lum::FileData> imageData_;
   std::optional<LumRange> jfifSegmentRange_;
@@ -224,6 +234,7 @@ class LumImageFile {
   std::optional<std::string> subSec_;
   LumImageFileOwner* owner_ = nullptr;
   std::uint32_t flags_ = 0;
+  Holding holding_ = Holding::Kept;
 
   mutable std::mutex jobMutex_;  // guards thumbnail_ and operation_
   std::shared_ptr<const lum::Bitmap> thumbnail_;

@@ -10,13 +10,14 @@ using Doc = LumMultiFileDoc;
 
 namespace {
 
-const std::string kA = "2020:01:31 10:00:00";
-const std::string kB = "2019:12:31 23:30:00";
-const std::string kC = "2021:06:15 08:00:00";
+const std::string kA = "2020:01:31 10:00:00", kB = "2019:12:31 23:30:00", kC = "2021:06:15 08:00:00";
+// Texts cameras write that the lenient reader rolls over when it shows them.
+const std::string kZero = "0000:00:00 00:00:00", kLeap = "2019:02:29 10:00:00", kSixty = "2019:03:07 09:05:60";
 
 struct DocFixture : ::testing::Test {
   TempFolder folder;
 
+  void SetUp() override { ensureApplication(); }
   std::unique_ptr<Doc> open(const std::vector<std::pair<std::string, PhotoDates>>& photos) {
     std::vector<std::unique_ptr<LumFileItemDoc>> items;
     for (const auto& [name, dates] : photos) items.push_back(openItem(writePhoto(folder, name, dates)));
@@ -34,67 +35,75 @@ struct DocFixture : ::testing::Test {
 using Texts = DateTargets::Texts;
 const std::optional<std::string> kNo;
 
-struct ApplyCase {
-  const char* name;
-  LumActionMode mode;
-  std::array<long, 6> fields;
-  unsigned mask;
-  QString actionName;
-  Texts a, b, c;  // expected texts of a.jpg, b.jpg, c.jpg after applying
-};
-
+// Each file holds one of the texts the lenient reader rolls over; after
+// apply, undo and redo, the save leaves on disk exactly a photo built with
+// the expected texts: a date the action left alone keeps its bytes, the
+// zero date is passed over by a shift and filled by a set.
 TEST_F(DocFixture, ApplyUndoRedoOverSeveralFiles) {
-  const std::vector<ApplyCase> cases{
-      {"forward", LumActionMode::Forward, {0, 1, 0, 1, 2, 3}, 7, "Forward (null)",
-       {"2020:02:29 11:02:03", "2020:02:29 11:02:03", "2020:02:29 11:02:03"},
-       {"2020:02:01 00:32:03", kNo, "2020:02:01 00:32:03"},
-       {"2021:07:15 09:02:03", "2021:07:15 09:02:03", kNo}},
-      {"backward, original only", LumActionMode::Backward, {1, 0, 1, 0, 0, 0}, 1, "Backward (null)",
-       {"2019:01:30 10:00:00", kA, kA}, {"2018:12:30 23:30:00", kNo, kB}, {"2020:06:14 08:00:00", kC, kNo}},
-      {"set time, edited only", LumActionMode::SetTime, {2000, 2, 29, 12, 0, 0}, 4, "Set Time 2000:02:29 12:00:00",
-       {kA, kA, "2000:02:29 12:00:00"}, {kB, kNo, "2000:02:29 12:00:00"}, {kC, kC, kNo}},
+  const std::array<std::string, 3> names{"a.jpg", "b.jpg", "c.jpg"};
+  const std::array<PhotoDates, 3> opened{{{kA, kZero, kA}, {kB, kNo, kLeap}, {kC, kSixty, kNo}}};
+  const std::string set = "2000:02:29 12:00:00";
+  const struct {
+    LumActionMode mode;
+    std::array<long, 6> fields;
+    unsigned mask;
+    QString actionName;
+    std::array<PhotoDates, 3> after;
+  } cases[] = {
+      {LumActionMode::Forward, {0, 1, 0, 1, 2, 3}, 7, "Forward (null)",
+       {{{"2020:02:29 11:02:03", kZero, "2020:02:29 11:02:03"},
+         {"2020:02:01 00:32:03", kNo, "2019:04:01 11:02:03"},
+         {"2021:07:15 09:02:03", "2019:04:07 10:08:03", kNo}}}},
+      {LumActionMode::Backward, {1, 0, 1, 0, 0, 0}, 1, "Backward (null)",
+       {{{"2019:01:30 10:00:00", kZero, kA},
+         {"2018:12:30 23:30:00", kNo, kLeap},
+         {"2020:06:14 08:00:00", kSixty, kNo}}}},
+      {LumActionMode::SetTime, {2000, 2, 29, 12, 0, 0}, 6, "Set Time " + QString::fromStdString(set),
+       {{{kA, set, set}, {kB, kNo, set}, {kC, set, kNo}}}},
   };
-  for (const ApplyCase& c : cases) {
-    SCOPED_TRACE(c.name);
-    const auto doc = open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, kNo, kB}}, {"c.jpg", {kC, kC, kNo}}});
+  const auto expectTexts = [&](const Doc& doc, const std::array<PhotoDates, 3>& dates) {
+    for (std::size_t i = 0; i < names.size(); ++i) {
+      EXPECT_EQ(texts(doc, names[i]), (Texts{dates[i].original, dates[i].digitized, dates[i].edited})) << names[i];
+    }
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.actionName.toStdString());
+    const auto doc = open({{names[0], opened[0]}, {names[1], opened[1]}, {names[2], opened[2]}});
     doc->setEditStateOnAllFiles();
     doc->changeActionMode(c.mode);
     doc->setEditTargetMask(c.mask);
     doc->setFieldValues(c.fields);
     ASSERT_TRUE(doc->validateApllyButton().enabled);
     doc->applyToAllFiles();
-
-    EXPECT_EQ(texts(*doc, "a.jpg"), c.a);
-    EXPECT_EQ(texts(*doc, "b.jpg"), c.b);
-    EXPECT_EQ(texts(*doc, "c.jpg"), c.c);
+    expectTexts(*doc, c.after);
     ASSERT_EQ(doc->undoStack().count(), 1);
     EXPECT_EQ(doc->undoStack().undoText(), c.actionName);
-    EXPECT_EQ(doc->editedFileCount(), c.mode == LumActionMode::SetTime ? 2u : 3u);
-    if (c.mode != LumActionMode::SetTime) {
-      EXPECT_EQ(doc->fieldValues(), (std::array<long, 6>{}));
-    }
+    EXPECT_EQ(doc->editedFileCount(), 3u);
+    EXPECT_EQ(doc->fieldValues() == (std::array<long, 6>{}), c.mode != LumActionMode::SetTime);
 
     doc->undoStack().undo();  // one step back for every file
-    EXPECT_EQ(texts(*doc, "a.jpg"), (Texts{kA, kA, kA}));
-    EXPECT_EQ(texts(*doc, "b.jpg"), (Texts{kB, kNo, kB}));
-    EXPECT_EQ(texts(*doc, "c.jpg"), (Texts{kC, kC, kNo}));
+    expectTexts(*doc, opened);
     EXPECT_FALSE(doc->hasEditedFile());
-
     doc->undoStack().redo();
-    EXPECT_EQ(texts(*doc, "a.jpg"), c.a);
-    EXPECT_EQ(texts(*doc, "b.jpg"), c.b);
-    EXPECT_EQ(texts(*doc, "c.jpg"), c.c);
+
+    QSignalSpy finished(doc.get(), &Doc::saveFinished);
+    doc->saveAllDocuments();
+    ASSERT_TRUE(!finished.isEmpty() || finished.wait(20000));
+    for (std::size_t i = 0; i < names.size(); ++i) {
+      EXPECT_EQ(readBytes(folder / names[i]), photoBytes(c.after[i])) << names[i];
+    }
   }
 }
 
 TEST_F(DocFixture, RangeCheckDisablesApplyAndShowsTheWarning) {
-  const auto doc = open({{"early.jpg", {"0001:06:01 00:00:00", kNo, kA}}, {"b.jpg", {kB, kB, kB}}});
+  // The zero date is passed over: it never counts as leaving the range.
+  const auto doc = open({{"early.jpg", {"0001:06:01 00:00:00", kNo, kA}}, {"b.jpg", {kB, kB, kB}},
+                         {"z.jpg", {kZero, kZero, kZero}}});
   doc->setEditStateOnAllFiles();
   QSignalSpy beeps(doc.get(), &Doc::beep);
 
   // All zero: disabled without a warning.
-  EXPECT_FALSE(doc->validateApllyButton().enabled);
-  EXPECT_FALSE(doc->validateApllyButton().warningShown);
+  EXPECT_FALSE(doc->validateApllyButton().enabled || doc->validateApllyButton().warningShown);
 
   doc->changeActionMode(LumActionMode::Backward);
   doc->setFieldValue(Doc::Year, 1);
@@ -104,10 +113,6 @@ TEST_F(DocFixture, RangeCheckDisablesApplyAndShowsTheWarning) {
   ASSERT_EQ(doc->illegalChangeDates().size(), 1u);
   EXPECT_EQ(doc->illegalChangeDates()[0].which, DateTargets::Original);
 
-  doc->applyToAllFiles();  // the window would not let it through; the model leaves bad dates alone
-  EXPECT_EQ(texts(*doc, "early.jpg")[DateTargets::Original], "0001:06:01 00:00:00");
-
-  doc->setFieldValue(Doc::Year, 1);  // apply cleared the fields
   doc->setEditTargetMask(2 | 4);  // original unchecked: nothing leaves the range
   EXPECT_TRUE(doc->validateApllyButton().enabled);
   EXPECT_FALSE(doc->validateApllyButton().warningShown);
@@ -115,16 +120,6 @@ TEST_F(DocFixture, RangeCheckDisablesApplyAndShowsTheWarning) {
   doc->setEditTargetMask(7);
   doc->setEditTarget(*doc->rowOf(doc->itemForURL(folder / "early.jpg")), false);  // not marked: not checked
   EXPECT_TRUE(doc->validateApllyButton().enabled);
-}
-
-TEST_F(DocFixture, AFileMissingADateKeepsItAbsent) {
-  const auto doc = open({{"a.jpg", {kA, kNo, kA}}});
-  doc->setEditStateOnAllFiles();
-  doc->setFieldValue(Doc::Day, 1);
-  doc->applyToAllFiles();
-  EXPECT_EQ(texts(*doc, "a.jpg"), (Texts{"2020:02:01 10:00:00", kNo, "2020:02:01 10:00:00"}));
-  doc->undoStack().undo();
-  EXPECT_EQ(texts(*doc, "a.jpg"), (Texts{kA, kNo, kA}));
 }
 
 TEST_F(DocFixture, RestoreBringsBackTheFileDatesAndIsUndoable) {
@@ -143,27 +138,18 @@ TEST_F(DocFixture, RestoreBringsBackTheFileDatesAndIsUndoable) {
   doc->restoreAllFiles();
   EXPECT_FALSE(doc->hasEditedFile());
   EXPECT_EQ(doc->undoStack().count(), 3);
-  EXPECT_EQ(doc->undoStack().undoText(), "");
   doc->undoStack().undo();
   EXPECT_EQ(doc->editedFileCount(), 1u);
-
-  // Restoring an unchanged file is an action that changes nothing.
-  const auto clean = open({{"c.jpg", {kC, kC, kC}}});
-  clean->restoreAllFiles();
-  EXPECT_EQ(clean->undoStack().count(), 1);
-  EXPECT_FALSE(clean->hasEditedFile());
 }
 
-struct TypedCase {
-  const char* typed;
-  const char* column;
-  bool shift;
-  Doc::TypedResult result;
-  Texts after;
-};
-
 TEST_F(DocFixture, TypedText) {
-  const std::vector<TypedCase> cases{
+  const struct {
+    const char* typed;
+    const char* column;
+    bool shift;
+    Doc::TypedResult result;
+    Texts after;
+  } cases[] = {
       {"2021/3/4 5:06:07", "DateTimeOriginal", false, Doc::TypedResult::Applied, {"2021:03:04 05:06:07", kB, kB}},
       {"2021/3/4 5:06:07", "DateTime", false, Doc::TypedResult::Applied, {kB, kB, "2021:03:04 05:06:07"}},
       {"2021/3/4 5:06:07", "DateTimeDigitized", true, Doc::TypedResult::Applied,
@@ -172,7 +158,7 @@ TEST_F(DocFixture, TypedText) {
       {"2019:12:31 23:30:00", "DateTimeOriginal", false, Doc::TypedResult::Ignored, {kB, kB, kB}},  // unchanged
       {"2021/3/4 5:06:07", "FileName", false, Doc::TypedResult::Ignored, {kB, kB, kB}},
   };
-  for (const TypedCase& c : cases) {
+  for (const auto& c : cases) {
     SCOPED_TRACE(std::string(c.typed) + " in " + c.column);
     const auto doc = open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, kB, kB}}});
     QSignalSpy beeps(doc.get(), &Doc::beep);
@@ -189,21 +175,6 @@ TEST_F(DocFixture, TypedText) {
   }
 }
 
-TEST_F(DocFixture, SortingByDateKeepsUndatedFilesLastAndTheSelectionFollows) {
-  const auto doc = open({{"n1.jpg", {kA, kA, kNo}}, {"late.jpg", {kC, kC, kC}}, {"n2.jpg", {kA, kA, kNo}},
-                         {"early.jpg", {kB, kB, kB}}});
-  EXPECT_EQ(doc->item(0).fileName(), "early.jpg");  // initial order: file name first
-  doc->setSelectedRows({*doc->rowOf(doc->itemForURL(folder / "n2.jpg"))});
-  doc->tableViewSortDescriptorsDidChange({{"DateTime", true}});
-  std::vector<std::string> order;
-  for (int row = 0; row < doc->rowCount(); ++row) order.push_back(doc->item(row).fileName());
-  EXPECT_EQ(order, (std::vector<std::string>{"early.jpg", "late.jpg", "n1.jpg", "n2.jpg"}));  // ties keep their order
-  EXPECT_EQ(doc->selectedRows(), std::vector<int>{3});
-  doc->tableViewSortDescriptorsDidChange({{"DateTime", false}});
-  EXPECT_EQ(doc->item(0).fileName(), "n1.jpg");
-  EXPECT_EQ(doc->item(3).fileName(), "early.jpg");
-}
-
 TEST_F(DocFixture, TitleCloseAlertAndMenus) {
   const auto doc = open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, kB, kB}}});
   EXPECT_EQ(doc->windowTitle(), "a.jpg (2 images)");
@@ -216,20 +187,14 @@ TEST_F(DocFixture, TitleCloseAlertAndMenus) {
   EXPECT_EQ(doc->windowTitle(), "b.jpg (2 images)");
   EXPECT_EQ(*doc->fileURL(), folder / "b.jpg");
   doc->controlTextDidEndEditing(1, "DateTime", "2001:01:01 01:01:01", false);
-  auto alert = doc->getTitleForAlertWhenCloseDociment();
-  ASSERT_TRUE(alert);
-  EXPECT_EQ(alert->title,
+  EXPECT_EQ(doc->getTitleForAlertWhenCloseDociment().value_or(Doc::CloseAlertTexts{}).title,
             "The document \"b.jpg\" has unsaved changes. Do you want to save the changes before closing?");
-  EXPECT_EQ(alert->message, "Your changes will be lost if you don't save them.");
   EXPECT_TRUE(doc->validateMenuItem(Doc::MenuCommand::Save).enabled);
   doc->setSelectedRows({0});
   EXPECT_FALSE(doc->validateMenuItem(Doc::MenuCommand::Save).enabled);
-  EXPECT_TRUE(doc->validateMenuItem(Doc::MenuCommand::SaveAll).enabled);
 
   doc->controlTextDidEndEditing(0, "DateTime", "2001:01:01 01:01:01", false);
-  alert = doc->getTitleForAlertWhenCloseDociment();
-  ASSERT_TRUE(alert);
-  EXPECT_EQ(alert->title,
+  EXPECT_EQ(doc->getTitleForAlertWhenCloseDociment().value_or(Doc::CloseAlertTexts{}).title,
             "There are multiple documents with unsaved changes. Do you want to save them before closing?");
 }
 

@@ -131,7 +131,11 @@ TEST(HeadOpening, AgreesWithParsingTheWholeFile) {
     ASSERT_TRUE(h.kept && h.listed);
     const json expected = shownFromAllBytes(c.bytes);
     EXPECT_EQ(lumtest::shown(*h.kept), expected);
-    EXPECT_EQ(lumtest::shown(*h.listed), expected);
+    // A listing holds no TIFF structure, only the texts it prints.
+    json listed = expected;
+    listed["tiffHeaderLocation"] = nullptr;
+    listed["date_offsets"] = json::object();
+    EXPECT_EQ(lumtest::shown(*h.listed), listed);
     EXPECT_EQ(!h.listed->imageData()->holdsWholeFile(), c.fromHead);
     // A kept file holds the whole file whichever bytes were parsed.
     const orb::ByteView keptBytes = h.kept->imageData()->bytes();

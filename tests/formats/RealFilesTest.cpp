@@ -39,6 +39,8 @@ TEST(RealFiles, EveryFileAgreesWithItsExpectedRecord) {
       const json got = shown(*file);
       std::set<std::string> skipped;
       for (const auto& field : expected.at("ambiguous")) skipped.insert(field.is_string() ? field.get<std::string>() : "");
+      // A listing holds no TIFF structure, only the texts it prints.
+      if (holding == LumImageFile::Holding::DatesOnly) skipped.insert({"tiffHeaderLocation", "date_offsets"});
       for (const auto& [key, value] : got.items()) {
         if (!skipped.count(key)) {
           EXPECT_EQ(value, expected.at(key)) << key;
