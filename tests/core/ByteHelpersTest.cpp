@@ -36,9 +36,7 @@ TEST(ByteHelpers, ReadsAndWritesStopAtTheEndWithoutMoving) {
 
 TEST(NSDataOrbAdditions, RangeUntilNull) {
   const Bytes data = {'a', 'b', 0, 'c', 'd'};
-  struct Case {
-    std::uint64_t location, length;
-  };
+  struct Case { std::uint64_t location, length; };
   const Case cases[] = {{0, 3}, {2, 1}, {3, 2}, {5, 0}, {99, 0}};  // the zero counts; none: to the end
   for (const auto& c : cases)
     EXPECT_EQ(NSDataOrbAdditions::rengeUntilNullFromLocation(data, c.location).length, c.length) << c.location;

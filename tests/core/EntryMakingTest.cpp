@@ -12,12 +12,7 @@ using Bytes = std::vector<std::uint8_t>;
 Bytes bytesOf(std::span<const std::uint8_t> s) { return Bytes(s.begin(), s.end()); }
 
 TEST(EntryMaking, NewEntriesGetTheirCataloguedContent) {
-  struct Case {
-    std::uint16_t tag;
-    std::uint32_t ifd;
-    std::uint16_t type;
-    std::uint32_t count;
-  };
+  struct Case { std::uint16_t tag; std::uint32_t ifd; std::uint16_t type; std::uint32_t count; };
   const Case cases[] = {
       {29, kGPSIFDID, kOrbTypeASCII, 11}, {36864, kExifIFDID, kOrbTypeUndefined, 4},
       {306, kTIFFIFDID, kOrbTypeASCII, 0}, {297, kTIFFIFDID, kOrbTypeShort, 2},
@@ -81,16 +76,9 @@ TEST(EntryMaking, DateTexts) {
   EXPECT_EQ(now->dataCount(), 20u);
   ASSERT_EQ(now->value().size(), 20u);
   EXPECT_EQ(now->value()[4], ':');
-  struct Case {
-    std::int64_t seconds;
-    std::optional<std::int32_t> zone;
-    const char* text;
-  };
-  const Case cases[] = {
-      {951782400, {}, "2000:02:29 00:00:00"},
-      {1625097598, -86400, "2021:06:29 23:59:58"},
-      {-62135596801, {}, "0000:12:31 23:59:59"},  // 1 BC
-  };
+  struct Case { std::int64_t seconds; std::optional<std::int32_t> zone; const char* text; };
+  const Case cases[] = {{951782400, {}, "2000:02:29 00:00:00"}, {1625097598, -86400, "2021:06:29 23:59:58"},
+                        {-62135596801, {}, "0000:12:31 23:59:59"}};  // the last: 1 BC
   for (const Case& c : cases) EXPECT_EQ(orb::exifDateText(c.seconds, c.zone), c.text) << c.seconds;
 }
 

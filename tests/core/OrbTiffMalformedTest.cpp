@@ -44,24 +44,15 @@ TEST(OrbTiffMalformed, OutOfLineValueMustEndWithinTheLimit) {
 }
 
 TEST(OrbTiffMalformed, EntriesPointingOutsideAreDroppedOthersKept) {
-  struct Case {
-    const char* name;
-    std::uint16_t type;
-    std::uint32_t count;
-    std::uint32_t field;
-  };
-  const Case cases[] = {
-      {"offset past the end", 2, 20, 0x7FFFFFF0},
-      {"offset at 2^32-1", 2, 20, 0xFFFFFFFF},
-      {"huge count", 2, 0xFFFFFFF0, 8},
-      {"count wrapping to a small size", 5, 0x20000001, 8},  // 8 * count wraps to 8
-      {"huge rational count", 5, 0x1FFFFFFF, 8},
-      {"past the block, inside the limit", 2, 64, 40},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.name);
+  // Type, count and field: an offset past the end, at 2^32-1, a huge count, a
+  // count whose byte size wraps to 8, a huge rational count, a value past the
+  // block but inside the limit.
+  const std::uint32_t cases[][3] = {{2, 20, 0x7FFFFFF0}, {2, 20, 0xFFFFFFFF}, {2, 0xFFFFFFF0, 8},
+                                    {5, 0x20000001, 8},   {5, 0x1FFFFFFF, 8},  {2, 64, 40}};
+  for (const auto& [type, count, field] : cases) {
+    SCOPED_TRACE(testing::Message() << type << " x " << count << " at " << field);
     TiffBuilder builder(TiffBuilder::kLittle);
-    builder.ifd0().raw(0x0132, c.type, c.count, c.field).ascii(kMake, "Maker");
+    builder.ifd0().raw(0x0132, std::uint16_t(type), count, field).ascii(kMake, "Maker");
     const auto block = builder.build();
     // A limit beyond the block must not let a read leave the block.
     auto tiff = parseExact(block, block.size() + 1000);
@@ -89,9 +80,8 @@ TEST(OrbTiffMalformed, TruncatedBlocksEndCleanly) {
     std::vector<std::uint8_t> cut(full.begin(), full.begin() + static_cast<long>(size));
     auto tiff = parseExact(cut, cut.size());
     EXPECT_EQ(tiff != nullptr, size >= 8) << size;
+    if (size == full.size()) { EXPECT_EQ(tiff->IFDs()->size(), 2u); }
   }
-  auto whole = parseExact(full, full.size());
-  EXPECT_EQ(whole->IFDs()->size(), 2u);
 }
 
 TEST(OrbTiffMalformed, EntryTableRunningPastTheLimitStopsAtIt) {
@@ -103,41 +93,26 @@ TEST(OrbTiffMalformed, EntryTableRunningPastTheLimitStopsAtIt) {
   // entry read may run past the limit), the third is not.
   auto tiff = parseExact(block, tableStart + 12 + 5);
   ASSERT_NE(tiff, nullptr);
-  EXPECT_NE(tiff->entryWithIFDTag(0x0112, kTIFFIFDID), nullptr);
   EXPECT_NE(tiff->entryWithIFDTag(0x0128, kTIFFIFDID), nullptr);
   EXPECT_EQ(tiff->entryWithIFDTag(0x0213, kTIFFIFDID), nullptr);
-}
-
-TEST(OrbTiffMalformed, ClaimedEntryCountBeyondTheBlock) {
+  // An entry count claiming more entries than the block holds.
   for (std::uint16_t claimed : {std::uint16_t{5}, std::uint16_t{0xFFFF}}) {
-    TiffBuilder builder;
-    builder.ifd0().shorts(0x0112, {1}).claimEntryCount(claimed);
-    const auto block = builder.build();
-    auto tiff = parseExact(block, block.size());
-    ASSERT_NE(tiff, nullptr);
-    EXPECT_NE(tiff->entryWithIFDTag(0x0112, kTIFFIFDID), nullptr);
+    TiffBuilder claiming;
+    claiming.ifd0().shorts(0x0112, {1}).claimEntryCount(claimed);
+    const auto cut = claiming.build();
+    EXPECT_NE(parseExact(cut, cut.size())->entryWithIFDTag(0x0112, kTIFFIFDID), nullptr) << claimed;
   }
 }
 
-TEST(OrbTiffMalformed, ChainLoopingBackEnds) {
-  struct Case {
-    const char* name;
-    bool loopOnSecond;  // IFD1 points back to IFD0, else IFD0 to itself
-  };
-  for (const Case c : {Case{"self", false}, Case{"back to IFD0", true}}) {
-    SCOPED_TRACE(c.name);
-    TiffBuilder builder;
-    auto& ifd0 = builder.ifd0();
-    ifd0.ascii(kMake, "Maker");
-    if (c.loopOnSecond) ifd0.next().ascii(kModel, "Model").nextOffset(8);
-    else ifd0.nextOffset(8);
-    auto tiff = parse(builder.build());
-    ASSERT_NE(tiff, nullptr);
-    EXPECT_EQ(tiff->IFDs()->size(), c.loopOnSecond ? 2u : 1u);
+TEST(OrbTiffMalformed, LoopsEnd) {
+  // The chain back to IFD0 from itself, or from IFD1.
+  for (const bool fromSecond : {false, true}) {
+    TiffBuilder chain;
+    auto& ifd0 = chain.ifd0().ascii(kMake, "Maker");
+    (fromSecond ? ifd0.next().ascii(kModel, "Model") : ifd0).nextOffset(8);
+    EXPECT_EQ(parse(chain.build())->IFDs()->size(), fromSecond ? 2u : 1u);
   }
-}
-
-TEST(OrbTiffMalformed, SubIFDPointingAtItsParentIsReadOnce) {
+  // A sub-IFD pointing at its parent is read once.
   TiffBuilder builder;
   builder.ifd0().ascii(kMake, "Maker").raw(kExifPointerTag, 4, 1, 8).raw(kGPSPointerTag, 4, 1, 8);
   auto tiff = parse(builder.build());

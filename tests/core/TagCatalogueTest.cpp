@@ -17,15 +17,12 @@ TEST(TagCatalogue, TitlesTypesAndVersions) {
   const Case cases[] = {
       {0x8827, kExifIFDID, 221, "ISO Speed Ratings", kOrbTypeShort, 100},
       {0x8827, kExifIFDID, 230, "Photographic Sensitivity", kOrbTypeShort, 100},
-      {0x8827, kTIFFIFDID, 230, "(0x8827)", 0, 0},
-      {0xA20D, kExifIFDID, 230, "(0xA20D)", 0, 0},
-      {0x0000, kTIFFIFDID, 0, "Byte Order", 0, 0},
-      {0x0214, kTIFFIFDID, 0, "Reference Black White", kOrbTypeLong, 0},  // LONG on purpose
-      {0x800D, kTIFFIFDID, 0, "Image ID", 0, 0},                          // titled, untyped
+      {0x8827, kTIFFIFDID, 230, "(0x8827)", 0, 0}, {0xA20D, kExifIFDID, 230, "(0xA20D)", 0, 0},
+      {0x0000, kTIFFIFDID, 0, "Byte Order", 0, 0}, {0x800D, kTIFFIFDID, 0, "Image ID", 0, 0},  // titled, untyped
+      {0x0214, kTIFFIFDID, 0, "Reference Black White", kOrbTypeLong, 0},                    // LONG on purpose
       {0xA500, kExifIFDID, 0, "Gamma", kOrbTypeRational, 221},
       {27, kGPSIFDID, 0, "GPS Processing Method", kOrbTypeUndefined, 2200},
-      {31, kGPSIFDID, 0, "GPS HPositioning Error", kOrbTypeRational, 2300},
-      {32, kGPSIFDID, 0, "(0x20)", 0, 0},
+      {31, kGPSIFDID, 0, "GPS HPositioning Error", kOrbTypeRational, 2300}, {32, kGPSIFDID, 0, "(0x20)", 0, 0},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.title);
@@ -45,8 +42,7 @@ TEST(TagCatalogue, VersionCompatibility) {
   };
   const Case cases[] = {
       {221, 42036, kExifIFDID, {}, false}, {230, 42036, kExifIFDID, {}, true},
-      {230, 37893, kExifIFDID, {}, false}, {220, 42240, kExifIFDID, {}, false},
-      {231, 42080, kExifIFDID, {}, false},
+      {230, 37893, kExifIFDID, {}, false}, {220, 42240, kExifIFDID, {}, false}, {231, 42080, kExifIFDID, {}, false},
       {100, 41985, kExifIFDID, {}, true},  // always, although introduced in 2.2
       {2200, 31, kGPSIFDID, {}, false},    {2300, 31, kGPSIFDID, {}, true},
       {2000, 27, kGPSIFDID, {}, false},    {0, 42044, kTIFFIFDID, {}, true},
@@ -54,8 +50,7 @@ TEST(TagCatalogue, VersionCompatibility) {
       {221, 37384, kExifIFDID, 16, false}, {230, 37384, kExifIFDID, 16, true},
       {220, 37384, kExifIFDID, 4, true},   {210, 37384, kExifIFDID, 4, false},
       {210, 37384, kExifIFDID, 9, false},  {210, 37384, kExifIFDID, 16, false},
-      {210, 37384, kExifIFDID, 5, true},   {210, 37384, kExifIFDID, 17, true},
-      {210, 37384, kExifIFDID, {}, true},
+      {210, 37384, kExifIFDID, 5, true},   {210, 37384, kExifIFDID, 17, true}, {210, 37384, kExifIFDID, {}, true},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(testing::Message() << c.tag << " v" << c.version << " L" << c.light.value_or(-1));
@@ -64,34 +59,20 @@ TEST(TagCatalogue, VersionCompatibility) {
 }
 
 TEST(TagCatalogue, CorrectTagForItsIFD) {
-  struct Case {
-    std::uint16_t tag;
-    std::uint32_t ifd;
-    bool correct;
-  };
-  const Case cases[] = {
-      {0x010F, kExifIFDID, false}, {0x9003, kTIFFIFDID, false}, {0x1234, kTIFFIFDID, true},
-      {0x1234, kExifIFDID, true},  {0x882A, kExifIFDID, true},  {0x882A, kTIFFIFDID, true},
-      {0x800D, kExifIFDID, true},  {0x010F, kGPSIFDID, true},
-  };
-  for (const Case& c : cases) EXPECT_EQ(cat::isCorrectTag(c.tag, c.ifd), c.correct) << c.tag << " in " << c.ifd;
+  const std::tuple<std::uint16_t, std::uint32_t, bool> cases[] = {
+      {0x010F, kExifIFDID, false}, {0x9003, kTIFFIFDID, false}, {0x1234, kTIFFIFDID, true}, {0x1234, kExifIFDID, true},
+      {0x882A, kExifIFDID, true},  {0x882A, kTIFFIFDID, true},  {0x800D, kExifIFDID, true}, {0x010F, kGPSIFDID, true}};
+  for (const auto& [tag, ifd, correct] : cases) EXPECT_EQ(cat::isCorrectTag(tag, ifd), correct) << tag << " in " << ifd;
 }
 
 TEST(TagCatalogue, ImageUniqueID) {
-  struct Case {
-    const char* text;
-    bool legal;
-  };
-  const Case cases[] = {
+  const std::pair<const char*, bool> cases[] = {
       {"0123456789abcdefABCDEF0123456789", true},  {"0123456789abcdefABCDEF012345678", false},
-      {"0123456789abcdefABCDEF01234567890", false}, {"0123456789abcdefABCDEF012345678G", false},
-      {"", false},
-  };
-  for (const Case& c : cases) {
+      {"0123456789abcdefABCDEF01234567890", false}, {"0123456789abcdefABCDEF012345678G", false}, {"", false}};
+  for (const auto& [text, legal] : cases) {
     LumError error{"untouched", 1, {}};
-    EXPECT_EQ(cat::isLegalExifImageUniqueID(std::string_view(c.text), &error), c.legal) << c.text;
-    const LumError expected = c.legal ? LumError{"untouched", 1, {}} : LumError{"OrbStringNumberErrorDomain", -4, {}};
-    EXPECT_EQ(error, expected);
+    EXPECT_EQ(cat::isLegalExifImageUniqueID(std::string_view(text), &error), legal) << text;
+    EXPECT_EQ(error, (legal ? LumError{"untouched", 1, {}} : LumError{"OrbStringNumberErrorDomain", -4, {}}));
   }
   LumError error{"untouched", 1, {}};
   EXPECT_FALSE(cat::isLegalExifImageUniqueID(std::nullopt, &error));  // not a text: no error

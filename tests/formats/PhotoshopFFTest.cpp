@@ -163,13 +163,11 @@ TEST(PhotoshopDescriptions, DecodedLayoutsAndTheNameAndSizeFallback) {
        "[Version: 6] [Top: 1 Left: 2 Bottom: 3 Right: 4] [a\xC3\xA9\xF0\x9F\x98\x80] [Slices Count: 5]"},
       {1057, {}, be32(1) + Bytes{1} + be32(1) + Bytes{0, 'W'} + be32(2) + Bytes{0, 'R', 0, 'd'} + be32(1),
        "[Version: 1] [Has Real Merged Data: YES] [Writer: W] [Reader: Rd] [File Version: 1]"},
-      {1061, {}, {0x0A, 0xFF, 0x00}, "0AFF00"},
-      {1064, {}, pixelAspect, "[Version: 1] [Aspect Ratio: 1.0]"},
+      {1061, {}, {0x0A, 0xFF, 0x00}, "0AFF00"}, {1064, {}, pixelAspect, "[Version: 1] [Aspect Ratio: 1.0]"},
       {1069, {}, Bytes{0, 2} + be32(5) + be32(6), "ID Count 2: ID 5, 6"},
       {1069, {}, Bytes{0, 2} + be32(5), ", Data size: 6 bytes"},
       {10000, {}, Bytes{0, 1, 1, 0} + be32(3) + Bytes{0, 2}, "[Version: 1] [Center Crop Marks: YES] [Bleed Width: 3, Scale 2]"},
-      {1036, "thumb", Bytes(40, 0), "Name: thumb, Data size: 40 bytes"},
-      {1039, {}, {7}, ", Data size: 1 byte"},
+      {1036, "thumb", Bytes(40, 0), "Name: thumb, Data size: 40 bytes"}, {1039, {}, {7}, ", Data size: 1 byte"},
   };
   for (const Case& c : cases)
     EXPECT_EQ(OrbImageResourceBlock(0, c.id, c.name, c.data).stringValue(), c.text) << c.id;
