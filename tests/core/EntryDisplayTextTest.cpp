@@ -47,6 +47,7 @@ TEST(EntryDisplay, TitlesAndVersionRulesOfAnEntry) {
   EXPECT_EQ(iso.title(), "ISO Speed Ratings");
   iso.setVersion(230);
   EXPECT_EQ(iso.title(), "Photographic Sensitivity");
+  EXPECT_EQ(iso.titleWithTag(0x8827, kTIFFIFDID), "(0x8827)");
 
   struct Case { OrbIFDEntry entry; std::uint32_t version; bool compatible; };
   const std::int8_t B = kOrbBigEndian;

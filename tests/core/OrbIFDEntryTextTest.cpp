@@ -155,4 +155,12 @@ TEST_F(TextTest, UnicodeFormInEitherByteOrder) {
     EXPECT_EQ(holding(kExifIFDID, 37510, kUNICODE + payload, 7, 220, kOrbLittleEndian).stringData(), "Hi");
 }
 
+TEST(TextAllowance, UTF8AllowedTagsByIFD) {
+  const std::tuple<std::uint32_t, std::uint16_t, bool> cases[] = {
+      {kTIFFIFDID, 270, true}, {kTIFFIFDID, 306, false}, {kExifIFDID, 0xA430, true}, {kExifIFDID, 270, false},
+      {kGPSIFDID, 28, true},   {kGPSIFDID, 29, false},   {kInteroperabilityIFDID, 1, false}};
+  for (const auto& [ifd, tag, allowed] : cases)
+    EXPECT_EQ(OrbIFDEntry::allowedUTF8WithItemID({ifd, tag}), allowed) << std::hex << ifd << " " << tag;
+}
+
 }  // namespace

@@ -104,7 +104,8 @@ TEST(IIMDataSetText, ShapesDatesTimesAndCodedValues) {
       {2, 42, "02", "Object Replace"}, {2, 42, "07", "07"}, {2, 150, "2M", "Stereo - Music, transmitted by itself"},
       {2, 151, "011025", "11025 Hz"}, {2, 152, "16", "16 bits"}, {2, 153, "000130", "00:01:30"},
       {1, 100, "20230415IPTC:obj1:v2", "[20230415] [IPTC] [obj1] [v2]"}, {2, 105, "20230415", "20230415"},
-      {3, 130, std::string(1, '\0'), "Not Allowed"}, {3, 135, "\x08\x08\x10", "8, 8, 16"},
+      {3, 130, std::string(1, '\0'), "Not Allowed"}, {3, 135, "\x08\x08\x10", "8, 8, 16"}, {3, 135, "AB", "AB"},
+      {2, 131, "P", "Portrait"},
   };
   for (const Case& c : cases) {
     const OrbIIMDataSet d(c.record, c.number, text(c.data));
