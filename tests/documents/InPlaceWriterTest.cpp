@@ -153,7 +153,8 @@ struct MemoryFolder {
 TEST(InPlaceWriter, ABatchIsFlushedOncePerFileSystemAndAFailedFlushCoversOnlyItsFiles) {
   TempFolder disk;
   MemoryFolder memory;
-  const fs::path other = !memory.path.empty() && deviceOf(memory.path) != deviceOf(disk.path()) ? memory.path : disk.path();
+  const bool inMemory = !memory.path.empty() && deviceOf(memory.path) != deviceOf(disk.path());
+  const fs::path other = inMemory ? memory.path : disk.path();
   const std::vector<fs::path> folders{disk.path(), other, disk.path(), other};
   std::set<std::uint64_t> devices;
   for (const fs::path& folder : folders) devices.insert(deviceOf(folder));

@@ -6,6 +6,8 @@
 #include <unistd.h>
 
 #include <map>
+#include <set>
+#include <system_error>
 
 #include "PhotoFiles.h"
 #include "documents/LumMultiFileDoc.h"
@@ -102,14 +104,22 @@ TEST_F(SaveFixture, FailedFilesAreReportedInRowOrderWithTheirReasonWhileTheOther
   doc->applyToAllFiles();
   doc->setFlushFunction({}, 8);  // five batches
   // Every seventh file fails, for each of these reasons in turn.
+  std::set<std::filesystem::path> writeFails;
   const std::pair<std::function<void(const std::filesystem::path&)>, std::string> faults[] = {
       {[](const auto& p) { std::filesystem::remove(p); }, ""},
       {[](const auto& p) { std::ofstream(p, std::ios::app) << "more"; }, InPlaceWriter::kChangedOnDiskReason},
-      {[](const auto& p) { ::chmod(p.c_str(), 0444); }, InPlaceWriter::kReadOnlyReason}};
+      {[](const auto& p) { ::chmod(p.c_str(), 0444); }, InPlaceWriter::kReadOnlyReason},
+      {[&](const auto& p) { writeFails.insert(p); }, std::system_category().message(EIO)}};
+  doc->setWriteFunction([&writeFails](int fd, const void* buffer, std::size_t count, off_t offset) -> ssize_t {
+    std::error_code ec;
+    if (writeFails.count(std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(fd), ec)))
+      return errno = EIO, -1;
+    return ::pwrite(fd, buffer, count, offset);
+  });
   std::vector<std::pair<std::filesystem::path, std::string>> failing;
   std::map<std::filesystem::path, std::vector<std::uint8_t>> failedBytes;
   for (int row = 0; row < doc->rowCount(); row += 7) {
-    const auto& [change, reason] = faults[failing.size() % 3];
+    const auto& [change, reason] = faults[failing.size() % std::size(faults)];
     failing.emplace_back(doc->item(row).path(), reason);
     change(failing.back().first);
     failedBytes[failing.back().first] = readBytes(failing.back().first);
