@@ -1,6 +1,8 @@
 // The JPEG marker walk and the JFIF fields, on hand-built segment layouts.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "formats/LumImageFile.h"
 #include "support/JpegBuilder.h"
 
@@ -9,6 +11,7 @@ namespace {
 using lumtest::Bytes;
 using lumtest::JpegBuilder;
 
+const Bytes kSOS = {0xFF, 0xDA};
 const Bytes kTiff = lumtest::exifTiff({{0x0132, std::string("2020:01:02 03:04:05\0", 20)}}, {});
 
 struct Walk {
@@ -79,7 +82,9 @@ TEST(JpegScan, Layouts) {
       {"later APP0 skipped", JpegBuilder().segment(0xDB, Bytes(4, 0)).jfif(1, 1).exif(kTiff).build(), true,
        2 + 8 + 18 + 10},
       {"APP1 of another kind only", JpegBuilder().segment(0xE1, {'Q', 'V', 'C', 'I', 0, 0}).build(), false, 0},
-      {"no APP1: the walk runs off the end", JpegBuilder().jfif(1, 1).build(), false, 0},
+      {"no APP1", JpegBuilder().jfif(1, 1).build(), false, 0},
+      {"Exif after the start of scan", JpegBuilder().jfif(1, 1).raw({0xFF, 0xDA, 0, 2}).exif(kTiff).build(false),
+       false, 0},
       {"segment reaching exactly the end",
        JpegBuilder().segment(0xDB, Bytes(6, 0), 8).build(false), false, 0},
       {"length carrying past the end", JpegBuilder().segment(0xDB, Bytes(6, 0), 0xFFFF).exif(kTiff).build(), false, 0},
@@ -96,6 +101,15 @@ TEST(JpegScan, Layouts) {
       EXPECT_EQ(w.location, c.header) << c.name;
     }
   }
+}
+
+TEST(JpegScan, AFileWithoutExifIsNotReadPastItsStartOfScan) {
+  Bytes b = JpegBuilder().jfif(1, 1).build();
+  b.resize(static_cast<std::size_t>(std::search(b.begin(), b.end(), kSOS.begin(), kSOS.end()) - b.begin()) + 4);
+  bool refused = false;
+  std::uint64_t location = 2;
+  EXPECT_FALSE(LumImageFile().pSearchJPEG(orb::ByteView(b.data(), b.size(), &refused), &location, 1u << 30));
+  EXPECT_FALSE(refused);
 }
 
 TEST(JpegScan, FirstApp1RangeIsKeptWhateverItHolds) {

@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 #include <tiffio.h>
 
+#include <fstream>
+#include <functional>
+
 #include "core/OrbTiff.h"
 #include "formats/ImageFileTestSupport.h"
 
@@ -52,7 +55,8 @@ TEST(LumImageFileOpen, UnreadableFileIsMinusTwoAndLogged) {
 TEST(LumImageFileOpen, JpegWithJfifAndExif) {
   const Bytes tiff = lumtest::exifTiff({{0x0132, nul("2021:02:03 04:05:06")}},
                                        {{0x9003, nul("2020:01:02 03:04:05")}, {0x9291, nul("  5")}});
-  const auto o = lumtest::openBytes(JpegBuilder().jfif(1, 1).exif(tiff).build());
+  const Bytes bytes = JpegBuilder().jfif(1, 1).exif(tiff).build();
+  const auto o = lumtest::openBytes(bytes);
   ASSERT_TRUE(o.file) << o.error.reason;
   const LumImageFile& f = *o.file;
   EXPECT_EQ(f.tiffHeaderLocation(), 0u);  // cleared after the scan on purpose
@@ -65,8 +69,8 @@ TEST(LumImageFileOpen, JpegWithJfifAndExif) {
   EXPECT_EQ(f.originalSubSecDateTimeString(), std::nullopt);
   EXPECT_TRUE(f.isEdit());
   // The value offset points at the date characters in the file.
-  const auto text = f.imageData()->bytes().bytes(f.dateValueOffset(LumDateField::DateTimeOriginal).value_or(0), 19);
-  EXPECT_EQ(std::string(text->begin(), text->end()), "2020:01:02 03:04:05");
+  const auto at = static_cast<std::ptrdiff_t>(f.dateValueOffset(LumDateField::DateTimeOriginal).value_or(0));
+  EXPECT_EQ(std::string(bytes.begin() + at, bytes.begin() + at + 19), "2020:01:02 03:04:05");
 }
 
 TEST(LumImageFileOpen, WhichDateTextsAreKept) {
@@ -144,38 +148,60 @@ TEST(LumImageFileOpen, TiffHeaderAtZero) {
   EXPECT_EQ(file->thumbnail()->height, 4);
 }
 
-TEST(LumImageFileThumbnail, FitsTheBoxAndNeedsAnOwner) {
-  const lumtest::TempFile temp(lumtest::encodeJpeg(640, 480));
-  LumError error;
-  const auto file = LumImageFile::imageFileWithURL(temp.path(), &error);
-  ASSERT_TRUE(file) << error.reason;
-  file->makeThumbnail();
-  EXPECT_FALSE(file->thumbnail());  // no owner, no path: nothing made
-  lumtest::PathOwner owner;
-  owner.path = temp.path();
-  file->setOwnerDocument(&owner);
-  file->makeThumbnail();
-  const auto thumb = file->thumbnail();
-  ASSERT_TRUE(thumb);
-  EXPECT_EQ(thumb->width, 150);
-  EXPECT_EQ(thumb->height, 113);
+bool mapsAnyFileIn(const std::filesystem::path& folder) {
+  std::ifstream maps("/proc/self/maps");
+  for (std::string line; std::getline(maps, line);)
+    if (line.find(folder.string()) != std::string::npos) return true;
+  return false;
 }
 
-TEST(LumImageFileThumbnail, AFileCutShortAfterOpeningGivesThePlaceholderNotACrash) {
-  // Decoding from the mapping made at opening would touch pages past the
-  // file's new end and kill the process.
-  const lumtest::TempFile temp(lumtest::encodeJpeg(640, 480));
-  LumError error;
-  const auto file = LumImageFile::imageFileWithURL(temp.path(), &error);
-  ASSERT_TRUE(file) << error.reason;
-  std::filesystem::resize_file(temp.path(), 0);
-  lumtest::PathOwner owner;
-  owner.path = temp.path();
-  file->setOwnerDocument(&owner);
-  file->makeThumbnail();
-  const auto thumb = file->thumbnail();
-  ASSERT_TRUE(thumb);
-  EXPECT_EQ(thumb->width, file->errorImage()->width);
+// After opening, the file is read again only while it is still the one
+// opened: a thumbnail of a changed file is the placeholder, and opening it
+// again as the file a save left fails with the reason. Nothing stays mapped.
+TEST(LumImageFileAfterOpening, AChangedFileIsNeverReadAsTheOneOpened) {
+  const Bytes photo = lumtest::encodeJpeg(640, 480);
+  const Bytes another = lumtest::encodeJpeg(64, 48);
+  const struct {
+    const char* name;
+    std::function<void(const std::filesystem::path&)> change;
+    bool hasOwner = true;
+  } cases[] = {
+      {"left alone", nullptr},
+      {"no owner, so no path", nullptr, false},
+      {"cut short", [](const auto& p) { std::filesystem::resize_file(p, 100); }},
+      {"emptied", [](const auto& p) { std::filesystem::resize_file(p, 0); }},
+      {"replaced by another photo", [&](const auto& p) {
+         const auto other = p.string() + ".new";
+         std::ofstream(other, std::ios::binary)
+             .write(reinterpret_cast<const char*>(another.data()), static_cast<std::streamsize>(another.size()));
+         std::filesystem::rename(other, p);
+       }},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    const lumtest::TempFile temp(photo);
+    const auto file = LumImageFile::imageFileWithURL(temp.path(), nullptr);
+    ASSERT_TRUE(file);
+    EXPECT_FALSE(mapsAnyFileIn(temp.path().parent_path()));
+    if (c.change) c.change(temp.path());
+    lumtest::PathOwner owner;
+    owner.path = temp.path();
+    if (c.hasOwner) file->setOwnerDocument(&owner);
+    file->makeThumbnail();
+    const auto thumb = file->thumbnail();
+    const bool unchanged = !c.change;
+    EXPECT_EQ(thumb != nullptr, c.hasOwner);
+    if (thumb) {
+      EXPECT_EQ(thumb->width, unchanged ? 150 : file->errorImage()->width);
+    }
+
+    LumError error;
+    const auto again = LumImageFile::imageFileIfUnchanged(temp.path(), *file->stampAsOpened(), &error);
+    EXPECT_EQ(again != nullptr, unchanged);
+    if (!unchanged) {
+      EXPECT_EQ(error, (LumError{"LumErrorDomain", -2, lum::kChangedSinceOpenedReason}));
+    }
+  }
 }
 
 // A JPEG whose luma sampling is 1 x 3, which has no TurboJPEG name
