@@ -40,34 +40,26 @@ TEST(FileData, AHeadIsTheFileStartWithTheWholeFilesStamp) {
   }
 }
 
-void rewriteOneByte(const std::filesystem::path& path) {
-  std::fstream file(path, std::ios::in | std::ios::out | std::ios::binary);
-  file.seekp(100);
-  file.put('x');
-  file.close();
-  // Another program's write lands in a later clock tick than the opening;
-  // moved on so that holds however fast the test runs.
-  std::filesystem::last_write_time(path, std::filesystem::last_write_time(path) + std::chrono::seconds(1));
-}
-
-void replaceWithSameSizeAndTime(const std::filesystem::path& path) {
-  const auto time = std::filesystem::last_write_time(path);
-  const auto other = path.string() + ".new";
-  std::ofstream(other, std::ios::binary) << std::string(std::filesystem::file_size(path), 'a');
-  std::filesystem::last_write_time(other, time);
-  std::filesystem::rename(other, path);
-}
-
 TEST(FileData, AReadAfterOpeningRefusesAFileThatIsNoLongerTheOneOpened) {
+  namespace fs = std::filesystem;
   const struct {
     const char* name;
-    std::function<void(const std::filesystem::path&)> change;
+    std::function<void(const fs::path&)> change;
   } cases[] = {
       {"left alone", nullptr},
-      {"written in place", rewriteOneByte},
-      {"cut short", [](const auto& p) { std::filesystem::resize_file(p, 10); }},
-      {"replaced by a file of the same size and time", replaceWithSameSizeAndTime},
-      {"deleted", [](const auto& p) { std::filesystem::remove(p); }},
+      // Another program's write lands in a later clock tick than the
+      // opening; the time is moved on so that holds however fast this runs.
+      {"written in place", [](const fs::path& p) {
+         std::fstream(p, std::ios::in | std::ios::out | std::ios::binary).put('x');
+         fs::last_write_time(p, fs::last_write_time(p) + std::chrono::seconds(1));
+       }},
+      {"cut short", [](const fs::path& p) { fs::resize_file(p, 10); }},
+      {"replaced by a copy with the same time", [](const fs::path& p) {
+         fs::copy_file(p, p.string() + ".copy");
+         fs::last_write_time(p.string() + ".copy", fs::last_write_time(p));
+         fs::rename(p.string() + ".copy", p);
+       }},
+      {"deleted", [](const fs::path& p) { fs::remove(p); }},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
@@ -77,13 +69,8 @@ TEST(FileData, AReadAfterOpeningRefusesAFileThatIsNoLongerTheOneOpened) {
     if (c.change) c.change(temp.path());
     lum::ReadFailure failure;
     const auto again = FileData::readIfUnchanged(temp.path(), *opened->stampAsOpened(), FileData::kWholeFile, &failure);
-    if (!c.change) {
-      ASSERT_TRUE(again);
-      EXPECT_EQ(again->size(), 10000u);
-      continue;
-    }
-    EXPECT_EQ(again, nullptr);
-    EXPECT_EQ(failure.reason, lum::kChangedSinceOpenedReason);
+    EXPECT_EQ(again ? again->size() : 0, c.change ? 0u : 10000u);
+    EXPECT_EQ(failure.reason, c.change ? lum::kChangedSinceOpenedReason : "");
   }
 }
 

@@ -27,17 +27,6 @@ Walk walk(const Bytes& bytes) {
   return w;
 }
 
-TEST(JpegScan, JfifThenExif) {
-  const Walk w = walk(JpegBuilder().jfif(1, 1, 1, 72, 72).exif(kTiff).build());
-  ASSERT_TRUE(w.found);
-  EXPECT_EQ(w.location, 30u);
-  EXPECT_EQ(w.file->tiffHeaderLocation(), 30u);
-  EXPECT_EQ(w.file->JFIFSegmentRange(), (LumRange{2, 18}));
-  ASSERT_TRUE(w.file->exifSegmentRange());
-  EXPECT_EQ(w.file->exifSegmentRange()->location, 20u);
-  EXPECT_EQ(w.file->exifSegmentRange()->length, kTiff.size() + 10);  // marker, length, "Exif\0\0"
-}
-
 TEST(JpegScan, JfifFieldTexts) {
   struct Case {
     std::uint8_t major, minor, unit, thumbW, thumbH;
