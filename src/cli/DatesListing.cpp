@@ -36,7 +36,7 @@ struct Outcome {
 };
 
 std::optional<Dates> readDates(const fs::path& path, LumError* error) {
-  const std::unique_ptr<LumImageFile> f = LumImageFile::imageFileWithURL(path, error);
+  const std::unique_ptr<LumImageFile> f = LumImageFile::imageFileWithURL(path, error, LumImageFile::Holding::DatesOnly);
   if (!f) return std::nullopt;
   return Dates{f->originalDateTimeOriginalString(),       f->originalDateTimeDigitizedString(),
                f->originalDateTimeString(),               f->originalSubSecDateTimeOriginalString(),

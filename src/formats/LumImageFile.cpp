@@ -2,6 +2,7 @@
 
 #include <cstdio>
 
+#include "core/ExifDateScan.h"
 #include "core/OrbTiff.h"
 #include "datetime/DateAdditions.h"
 #include "datetime/ExifDateText.h"
@@ -41,19 +42,38 @@ std::optional<std::string> textOf(const OrbTiff& tiff, std::uint16_t tag, std::u
   return object.stringValue();
 }
 
-// The first 19 characters of a date value when the date parser accepts
+// The first 19 characters of a date text when the date parser accepts
 // them; a shorter text is not a date.
+std::optional<std::string> validDate(std::string_view text) {
+  if (text.size() < kDateLength) return std::nullopt;
+  std::string cut(text.substr(0, kDateLength));
+  // The common form with every field in range is always a date; only other
+  // texts need the general parser, which costs far more per file.
+  if (!ExifDateText::secondsOf(cut) && !DateAdditions::dateWithDateTimeString(cut)) return std::nullopt;
+  return cut;
+}
+
 std::optional<std::string> validDate(const OrbTiff& tiff, LumDateField field) {
   const DateEntry e = dateEntry(field);
   const OrbIFDEntry* entry = tiff.entryWithIFDTag(e.tag, e.ifdID);
   if (!entry) return std::nullopt;
   const OrbDataObject object = entry->dataObject();
-  if (!object.isText() || object.text().size() < kDateLength) return std::nullopt;
-  std::string cut = object.text().substr(0, kDateLength);
-  // The common form with every field in range is always a date; only other
-  // texts need the general parser, which costs far more per file.
-  if (!ExifDateText::secondsOf(cut) && !DateAdditions::dateWithDateTimeString(cut)) return std::nullopt;
-  return cut;
+  if (!object.isText()) return std::nullopt;
+  return validDate(object.text());
+}
+
+std::optional<std::string> validDate(const ExifDateScan::Value& value) {
+  if (value.kind != ExifDateScan::Value::Kind::Text) return std::nullopt;
+  return validDate(value.text);
+}
+
+std::optional<std::string> textOf(const ExifDateScan::Value& value) {
+  if (value.kind != ExifDateScan::Value::Kind::Text) return std::nullopt;
+  return std::string(value.text);
+}
+
+std::string nextIFDLine(std::uint32_t next, std::uint64_t maxLocation) {
+  return "nextIFDLocation: (" + std::to_string(next) + ") maxLocation:(" + std::to_string(maxLocation) + ")";
 }
 
 }  // namespace
@@ -67,17 +87,19 @@ LumImageFile::~LumImageFile() {
   operation_.reset();
 }
 
-std::unique_ptr<LumImageFile> LumImageFile::imageFileWithURL(const std::filesystem::path& url, LumError* error) {
-  return open(url, std::nullopt, error);
+std::unique_ptr<LumImageFile> LumImageFile::imageFileWithURL(const std::filesystem::path& url, LumError* error,
+                                                             Holding holding) {
+  return open(url, std::nullopt, error, holding);
 }
 
 std::unique_ptr<LumImageFile> LumImageFile::imageFileIfUnchanged(const std::filesystem::path& url,
                                                                  const lum::FileStamp& expected, LumError* error) {
-  return open(url, expected, error);
+  return open(url, expected, error, Holding::Kept);
 }
 
 std::unique_ptr<LumImageFile> LumImageFile::open(const std::filesystem::path& url,
-                                                 std::optional<lum::FileStamp> expected, LumError* error) {
+                                                 std::optional<lum::FileStamp> expected, LumError* error,
+                                                 Holding holding) {
   lum::ReadFailure failure;
   const auto read = [&](std::size_t length) {
     return expected ? lum::FileData::readIfUnchanged(url, *expected, length, &failure)
@@ -85,18 +107,19 @@ std::unique_ptr<LumImageFile> LumImageFile::open(const std::filesystem::path& ur
   };
   for (const std::size_t length : kHeadBytes) {
     auto data = read(length);
-    if (!data || data->holdsWholeFile()) return fromWhole(std::move(data), failure, error);
+    if (!data || data->holdsWholeFile()) return fromWhole(std::move(data), failure, error, holding);
     // Later reads must see the same file as this one.
     expected = data->stampAsOpened();
     // A TIFF's directories may lie anywhere: it is read whole.
     if (ImageDecoder::kindOf(data->bytes()) != ImageDecoder::Kind::JPEG) break;
-    if (auto file = fromHead(data)) return file;
+    if (auto file = fromHead(data, holding)) return file;
   }
-  return fromWhole(read(lum::FileData::kWholeFile), failure, error);
+  return fromWhole(read(lum::FileData::kWholeFile), failure, error, holding);
 }
 
 std::unique_ptr<LumImageFile> LumImageFile::fromWhole(std::shared_ptr<const lum::FileData> data,
-                                                      const lum::ReadFailure& failure, LumError* error) {
+                                                      const lum::ReadFailure& failure, LumError* error,
+                                                      Holding holding) {
   if (!data || data->empty()) {
     if (error && !data)
       std::fprintf(stderr, "LumImageFile - NSData error %s, %s, %s\n", failure.reason.c_str(),
@@ -105,12 +128,14 @@ std::unique_ptr<LumImageFile> LumImageFile::fromWhole(std::shared_ptr<const lum:
     return nullptr;
   }
   auto file = std::make_unique<LumImageFile>();
+  file->holding_ = holding;
   if (!file->searchImageDataAndMakeExifObject(data->bytes(), error)) return nullptr;
   file->finishOpening(data);
   return file;
 }
 
-std::unique_ptr<LumImageFile> LumImageFile::fromHead(const std::shared_ptr<const lum::FileData>& head) {
+std::unique_ptr<LumImageFile> LumImageFile::fromHead(const std::shared_ptr<const lum::FileData>& head,
+                                                    Holding holding) {
   // Every read of the marker walk and of the TIFF structure goes through this
   // view, so a read it never refused lay inside the head and gave the bytes
   // the whole file holds there. The decoder's header check reads the bytes
@@ -120,6 +145,7 @@ std::unique_ptr<LumImageFile> LumImageFile::fromHead(const std::shared_ptr<const
   bool refused = false;
   const orb::ByteView bytes(head->bytes().data(), head->bytes().size(), &refused);
   auto file = std::make_unique<LumImageFile>();
+  file->holding_ = holding;
   // A failure here is not reported: the whole file gives the same one, or
   // opens when the head was too short to tell. Console lines wait for the
   // same reason: they are printed by the parse that is kept.
@@ -165,9 +191,29 @@ bool LumImageFile::scan(orb::ByteView data, std::uint64_t fileSize, LumError* er
     if (error) *error = lumError(-1, check.message);
     return false;
   }
-  if (headerLocation) {
-    const std::uint64_t location = *headerLocation;
-    tiff_ = OrbTiff::exifWithPtr(data, &location, fileSize, consoleLines);
+  if (!headerLocation) return true;
+  // A file held for its dates alone is spared the structure's entry objects
+  // whenever the date scan gives what the structure would.
+  if (holding_ == Holding::DatesOnly && takeDates(data, *headerLocation, fileSize, consoleLines)) return true;
+  const std::uint64_t location = *headerLocation;
+  tiff_ = OrbTiff::exifWithPtr(data, &location, fileSize, consoleLines);
+  return true;
+}
+
+bool LumImageFile::takeDates(orb::ByteView data, std::uint64_t headerLocation, std::uint64_t fileSize,
+                             std::vector<std::string>* consoleLines) {
+  const ExifDateScan::Dates dates = ExifDateScan::scan(data, headerLocation, fileSize);
+  if (!dates.complete()) return false;
+  dateTimeOriginal_ = validDate(dates[ExifDateScan::kDateTimeOriginal]);
+  dateTimeDigitized_ = validDate(dates[ExifDateScan::kDateTimeDigitized]);
+  dateTime_ = validDate(dates[ExifDateScan::kDateTime]);
+  subSecOriginal_ = textOf(dates[ExifDateScan::kSubSecTimeOriginal]);
+  subSecDigitized_ = textOf(dates[ExifDateScan::kSubSecTimeDigitized]);
+  subSec_ = textOf(dates[ExifDateScan::kSubSecTime]);
+  if (dates.nextIFDPastLimit) {
+    const std::string line = nextIFDLine(*dates.nextIFDPastLimit, fileSize);
+    if (consoleLines) consoleLines->push_back(line);
+    else std::fprintf(stderr, "%s\n", line.c_str());
   }
   return true;
 }

@@ -71,7 +71,15 @@ class LumImageFile {
   // whenever the scan provably found everything it looked for there, else
   // from the first kHeadBytes[1]; only a file whose scan wanted more, and a
   // TIFF, whose directories may lie anywhere, are read whole.
-  static std::unique_ptr<LumImageFile> imageFileWithURL(const std::filesystem::path& url, LumError* error);
+  //
+  // Holding::DatesOnly is for a caller that reads the dates and lets the
+  // file go at once (listing a folder): the dates are read without building
+  // the TIFF structure wherever that gives the same texts; tiff() is then
+  // null and dateValueOffset() answers nothing. Holding::Kept (a document)
+  // builds the structure.
+  enum class Holding { Kept, DatesOnly };
+  static std::unique_ptr<LumImageFile> imageFileWithURL(const std::filesystem::path& url, LumError* error,
+                                                        Holding holding = Holding::Kept);
   // Most cameras' headers (Exif with its thumbnail, tables, frame header)
   // fit in the first; those with large maker notes in the second.
   static constexpr std::size_t kHeadBytes[] = {16 * 1024, 64 * 1024};
@@ -185,20 +193,25 @@ class LumImageFile {
   // Opens from reads of the file, each made only while the file is still
   // the one stamped *expected when that is given.
   static std::unique_ptr<LumImageFile> open(const std::filesystem::path& url, std::optional<lum::FileStamp> expected,
-                                            LumError* error);
+                                            LumError* error, Holding holding);
   // Opens from the whole file's bytes, or reports why there are none
   // (failure, or an empty file).
   static std::unique_ptr<LumImageFile> fromWhole(std::shared_ptr<const lum::FileData> data,
-                                                 const lum::ReadFailure& failure, LumError* error);
+                                                 const lum::ReadFailure& failure, LumError* error, Holding holding);
   // Opens from the head of a JPEG when its scan provably found all it
   // needed there; nullptr otherwise.
-  static std::unique_ptr<LumImageFile> fromHead(const std::shared_ptr<const lum::FileData>& head);
+  static std::unique_ptr<LumImageFile> fromHead(const std::shared_ptr<const lum::FileData>& head, Holding holding);
   // The work of searchImageDataAndMakeExifObject(), bounded by the size of
   // the whole file, which the bytes may only begin. Console lines of the
   // TIFF parse go to consoleLines when given (see OrbTiff::exifWithPtr).
   bool scan(orb::ByteView data, std::uint64_t fileSize, LumError* error,
             std::vector<std::string>* consoleLines = nullptr);
   void finishOpening(const std::shared_ptr<const lum::FileData>& data);
+  // Sets the six original strings straight from the bytes, for a file held
+  // for its dates only; false (nothing set) when that cannot give what the
+  // TIFF structure would.
+  bool takeDates(orb::ByteView data, std::uint64_t headerLocation, std::uint64_t fileSize,
+                 std::vector<std::string>* consoleLines);
 
   std::optional<lum::FileStamp> stamp_;
   std::optional<LumRange> jfifSegmentRange_;
@@ -214,6 +227,7 @@ class LumImageFile {
   std::optional<std::string> subSec_;
   LumImageFileOwner* owner_ = nullptr;
   std::uint32_t flags_ = 0;
+  Holding holding_ = Holding::Kept;
 
   mutable std::mutex jobMutex_;  // guards thumbnail_ and operation_
   std::shared_ptr<const lum::Bitmap> thumbnail_;
