@@ -21,7 +21,6 @@ struct LumMultiFileDoc::SaveJob {
   std::filesystem::path path;
   std::vector<InPlaceWriter::BytePatch> patches;
   std::optional<lum::FileStamp> opened;
-  std::shared_ptr<const lum::FileData> data;  // the bytes the file was opened with
 };
 
 struct LumMultiFileDoc::SaveResult {
@@ -78,8 +77,9 @@ LumMultiFileDoc::SaveResult LumMultiFileDoc::saveOne(const SaveJob& job, const I
   result.saved = written.ok;
   result.reason = written.reason;
   result.unflushed = std::move(unflushed.file);
-  // The model then holds what is on disk now: the saved file opened again.
-  if (written.ok) result.reread = LumImageFile::imageFileAfterSave(job.path, job.data);
+  // The model then holds what is on disk now: the saved file opened again,
+  // provided it is still the file this save left.
+  if (written.ok && written.stamp) result.reread = LumImageFile::imageFileIfUnchanged(job.path, *written.stamp);
   return result;
 }
 
@@ -169,8 +169,7 @@ bool LumMultiFileDoc::saveFileAll(bool all, bool closeAfterSave, bool quitApp) {
 
   auto jobs = std::make_shared<std::vector<SaveJob>>();
   for (LumFileItemDoc* item : items)
-    jobs->push_back({item, item->path(), item->datePatches(), item->imageFile().stampAsOpened(),
-                     item->imageFile().imageData()});
+    jobs->push_back({item, item->path(), item->datePatches(), item->imageFile().stampAsOpened()});
   saving_ = true;
   emit savingStarted(static_cast<int>(items.size()));
 

@@ -62,7 +62,6 @@ TEST_F(SaveFixture, ChangesExactlyTheChangedDatesAndRereadsTheFile) {
   doc->applyToAllFiles();
   ASSERT_EQ(doc->editedFileCount(), 2u);
 
-  const std::uint8_t* mappedA = item("a.jpg").imageFile().imageData()->bytes().data();
   QSignalSpy started(doc.get(), &Doc::savingStarted);
   std::vector<QString> notices;
   const auto connection = QObject::connect(&LumNotificationCenter::defaultCenter(), &LumNotificationCenter::posted,
@@ -81,8 +80,6 @@ TEST_F(SaveFixture, ChangesExactlyTheChangedDatesAndRereadsTheFile) {
   EXPECT_EQ(doc->undoStack().count(), 0);
   EXPECT_EQ(item("a.jpg").imageFile().originalDateTimeOriginalString(), "2001:02:03 04:05:06");
   EXPECT_EQ(item("a.jpg").imageFile().stampAsOpened(), lum::FileStamp::of(folder / "a.jpg"));
-  // ... through the mapping it was opened with: a saved file holds no second one.
-  EXPECT_EQ(item("a.jpg").imageFile().imageData()->bytes().data(), mappedA);
   ASSERT_EQ(started.count(), 1);
   EXPECT_EQ(started[0][0].toInt(), 2);
   QObject::disconnect(connection);
