@@ -1,8 +1,13 @@
 // The physical floor for the benchmark: the least work any date tool must do.
 //
 //   bench-floor read FILE...                      pread the first 64 KiB of each file
-//   bench-floor write [--fsync] --at N FILE...    write 19 bytes in place at offset N
+//   bench-floor write [--fsync|--syncfs] --at N FILE...
+//                                                 write 19 bytes in place at offset N
 //
+// --fsync flushes each file before the next; --syncfs writes every file, then
+// makes them durable together with one syncfs(2) of the file system (through
+// the first file, kept open so that the call reports any writeback error
+// since it was opened).
 // One process handles every file, as the tools it is compared with do, so the
 // per-file time is what the kernel charges for open, one read or write, and
 // close. Exit status 1 when any file failed (reported on standard error).
@@ -42,20 +47,24 @@ bool readHead(const char* path, unsigned& sum) {
   return ok;
 }
 
-bool writeInPlace(const char* path, off_t at, bool durable) {
+bool writeInPlace(const char* path, off_t at, bool durable, int* keep = nullptr) {
   const int fd = ::open(path, O_WRONLY | O_CLOEXEC);
   if (fd < 0) return fail(path, "open");
   bool ok = ::pwrite(fd, kDateText.data(), kDateText.size(), at) ==
             static_cast<ssize_t>(kDateText.size());
   if (!ok) fail(path, "pwrite");
   if (ok && durable && ::fsync(fd) != 0) ok = fail(path, "fsync");
+  if (keep && *keep < 0) {
+    *keep = fd;
+    return ok;
+  }
   if (::close(fd) != 0 && ok) ok = fail(path, "close");
   return ok;
 }
 
 int usage() {
   std::fputs("usage: bench-floor read FILE...\n"
-             "       bench-floor write [--fsync] --at OFFSET FILE...\n", stderr);
+             "       bench-floor write [--fsync|--syncfs] --at OFFSET FILE...\n", stderr);
   return 2;
 }
 
@@ -65,12 +74,13 @@ int main(int argc, char* argv[]) {
   if (argc < 2) return usage();
   const std::string_view mode = argv[1];
   int i = 2;
-  bool durable = false;
+  bool durable = false, together = false;
   long long at = -1;
   if (mode == "write") {
     for (; i < argc && argv[i][0] == '-'; ++i) {
       const std::string_view opt = argv[i];
       if (opt == "--fsync") durable = true;
+      else if (opt == "--syncfs") together = true;
       else if (opt == "--at" && i + 1 < argc) at = std::atoll(argv[++i]);
       else return usage();
     }
@@ -81,8 +91,13 @@ int main(int argc, char* argv[]) {
 
   bool allOk = true;
   unsigned sum = 0;
+  int first = -1;  // with --syncfs, the first file stays open for the flush
   for (; i < argc; ++i)
-    allOk &= mode == "read" ? readHead(argv[i], sum) : writeInPlace(argv[i], at, durable);
+    allOk &= mode == "read" ? readHead(argv[i], sum) : writeInPlace(argv[i], at, durable, together ? &first : nullptr);
+  if (first >= 0) {
+    if (::syncfs(first) != 0) allOk = fail("(file system)", "syncfs");
+    ::close(first);
+  }
   // Printed to /dev/null by the harness; keeps the reads observable.
   std::printf("%u\n", sum);
   return allOk ? 0 : 1;

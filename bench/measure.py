@@ -63,6 +63,8 @@ def shift_programs(cli, floor, date_at):
                 [floor, "write", "--at", str(date_at)]),
         Program("floor-fsync", "floor: write 19 bytes + fsync", "floor",
                 [floor, "write", "--fsync", "--at", str(date_at)]),
+        Program("floor-syncfs", "floor: write 19 bytes, then one syncfs", "floor",
+                [floor, "write", "--syncfs", "--at", str(date_at)]),
         Program("lumidate", "lumidate-cli shift --hours 1", "lumidate",
                 [cli, "shift", "--hours", "1"],
                 probe=[cli, "shift", "--help"], missing="not built yet"),

@@ -117,6 +117,12 @@ def goal_rows(results):
     lum_shift = med("shift", "large", "lumidate")
     rows.append(goal("exiftool shift / Lumidate shift, large set (≥ 100x)",
                      ratio(med("shift", "large", "exiftool"), lum_shift), 100.0, False))
+    rows.append(goal("exiftool shift / Lumidate shift, small set (≥ 100x)",
+                     ratio(med("shift", "small", "exiftool"), med("shift", "small", "lumidate")),
+                     100.0, False))
+    rows.append(goal("shift / floor plain write (no flush), small set (≤ 3x)",
+                     ratio(med("shift", "small", "lumidate"), med("shift", "small", "floor-write")),
+                     3.0, True))
     rows.append(goal("jhead shift / Lumidate shift, large set (≥ 20x)",
                      ratio(med("shift", "large", "jhead"), lum_shift), 20.0, False))
     rss = median_of(results, "read", "small", "lumidate")

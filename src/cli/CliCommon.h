@@ -29,7 +29,7 @@ void reportOpenFailure(const std::filesystem::path& path, const LumError& error)
 void printJson(const nlohmann::ordered_json& value);
 
 // For a command that has written and reported everything: ends the process
-// with status at once and leaves what it built (documents, the mappings of
+// with status at once and leaves what it built (documents, the models of
 // every photo) to the kernel, which releases a whole address space faster
 // than destructors free it piece by piece; over 500 photos that is several
 // milliseconds. Builds with AddressSanitizer answer status instead, so that

@@ -16,21 +16,6 @@ namespace {
 
 std::string systemReason(int error) { return std::system_category().message(error); }
 
-// Closes the descriptor on every path out of writePatches.
-class OpenFile {
- public:
-  explicit OpenFile(const std::filesystem::path& path) : fd_(::open(path.c_str(), O_RDWR | O_CLOEXEC)) {}
-  ~OpenFile() {
-    if (fd_ >= 0) ::close(fd_);
-  }
-  OpenFile(const OpenFile&) = delete;
-  OpenFile& operator=(const OpenFile&) = delete;
-  int fd() const { return fd_; }
-
- private:
-  int fd_;
-};
-
 // Writes all of [data, data + count) at offset, going on after short writes.
 // Answers 0 or the errno of the failure.
 int writeAll(const WriteFunction& write, int fd, const std::uint8_t* data, std::size_t count, off_t offset) {
@@ -68,9 +53,24 @@ bool insideFile(const BytePatch& patch, std::uint64_t size) {
   return patch.position <= size && patch.bytes.size() <= size - patch.position;
 }
 
-WriteResult failure(std::string reason) { return {false, std::move(reason), std::nullopt}; }
+UnflushedWrite failure(std::string reason) { return {{false, std::move(reason), std::nullopt}, {}}; }
 
 }  // namespace
+
+OpenFile::OpenFile(const std::filesystem::path& path) : fd_(::open(path.c_str(), O_RDWR | O_CLOEXEC)) {}
+
+OpenFile& OpenFile::operator=(OpenFile&& other) noexcept {
+  if (this != &other) {
+    close();
+    fd_ = std::exchange(other.fd_, -1);
+  }
+  return *this;
+}
+
+void OpenFile::close() {
+  if (fd_ >= 0) ::close(fd_);
+  fd_ = -1;
+}
 
 std::optional<FileIdentity> identityOfFile(const std::filesystem::path& path) {
   struct stat st {};
@@ -78,8 +78,8 @@ std::optional<FileIdentity> identityOfFile(const std::filesystem::path& path) {
   return lum::FileStamp::ofStat(st);
 }
 
-WriteResult writePatches(const std::filesystem::path& path, const FileIdentity& opened,
-                         std::span<const BytePatch> patches, const WriteFunction& write) {
+UnflushedWrite writeWithoutFlush(const std::filesystem::path& path, const FileIdentity& opened,
+                                 std::span<const BytePatch> patches, const WriteFunction& write) {
   struct stat st {};
   if (::stat(path.c_str(), &st) != 0) return failure(errno == ENOENT ? kMissingReason : systemReason(errno));
   // Honour the read-only mark even when the process could override it (root):
@@ -99,7 +99,7 @@ WriteResult writePatches(const std::filesystem::path& path, const FileIdentity& 
     first = std::min(first, p.position);
     end = std::max(end, p.position + p.bytes.size());
   }
-  if (end == 0) return {true, {}, lum::FileStamp::ofStat(st)};
+  if (end == 0) return {{true, {}, lum::FileStamp::ofStat(st)}, {}};
 
   // One run from the first changed byte to the last: the bytes in between are
   // the file's own, read now, so they are written back unchanged.
@@ -119,11 +119,20 @@ WriteResult writePatches(const std::filesystem::path& path, const FileIdentity& 
     ::fsync(file.fd());
     return failure(systemReason(error));
   }
-  if (::fsync(file.fd()) != 0) return failure(systemReason(errno));
-  // The save has succeeded; a stamp that cannot be read only means the
-  // caller must open the file again to learn it.
-  if (::fstat(file.fd(), &st) != 0) return {true, {}, std::nullopt};
-  return {true, {}, lum::FileStamp::ofStat(st)};
+  // The stamp is final once the write returned: a flush changes no time.
+  // One that cannot be read only means the caller must open the file again
+  // to learn it.
+  std::optional<FileIdentity> stamp;
+  if (::fstat(file.fd(), &st) == 0) stamp = lum::FileStamp::ofStat(st);
+  return {{true, {}, stamp}, std::move(file)};
+}
+
+WriteResult writePatches(const std::filesystem::path& path, const FileIdentity& opened,
+                         std::span<const BytePatch> patches, const WriteFunction& write) {
+  UnflushedWrite written = writeWithoutFlush(path, opened, patches, write);
+  if (written.file.isOpen() && ::fsync(written.file.fd()) != 0)
+    return {false, systemReason(errno), std::nullopt};
+  return written.result;
 }
 
 }  // namespace InPlaceWriter

@@ -6,8 +6,9 @@
 // modification time), refuses any position outside the file, writes one
 // contiguous run of bytes covering every change (the unchanged bytes between
 // two changes are read from the file and written back as they were), and
-// flushes the file to disk. It never truncates, never creates and never
-// replaces the file, so an interrupted save cannot leave a shortened photo.
+// flushes the file to disk, on its own or together with a batch of files
+// (BatchFlush.h). It never truncates, never creates and never replaces the
+// file, so an interrupted save cannot leave a shortened photo.
 
 #include <sys/types.h>
 
@@ -17,6 +18,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <utility>
 
 #include "formats/FileData.h"
 
@@ -54,8 +56,41 @@ inline constexpr const char* kReadOnlyReason = "The file is read-only.";
 inline constexpr const char* kBeyondEndReason = "A date lies beyond the end of the file; the file was not changed.";
 
 // Writes the patches into the file at path, provided it still has the
-// identity `opened`. With no patches nothing is written and the answer is ok.
+// identity `opened`, and flushes the file. With no patches nothing is written
+// and the answer is ok.
 WriteResult writePatches(const std::filesystem::path& path, const FileIdentity& opened,
                          std::span<const BytePatch> patches, const WriteFunction& write = {});
+
+// An open descriptor, closed when the object goes.
+class OpenFile {
+ public:
+  OpenFile() = default;
+  explicit OpenFile(const std::filesystem::path& path);
+  ~OpenFile() { close(); }
+  OpenFile(OpenFile&& other) noexcept : fd_(std::exchange(other.fd_, -1)) {}
+  OpenFile& operator=(OpenFile&& other) noexcept;
+  OpenFile(const OpenFile&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+  int fd() const { return fd_; }
+  bool isOpen() const { return fd_ >= 0; }
+  void close();
+
+ private:
+  int fd_ = -1;
+};
+
+// A write whose bytes are in the file but not yet known to be on the disk.
+// When the write succeeded and changed bytes, `file` stays open for the flush
+// (a flush through that descriptor reports the errors of that write).
+struct UnflushedWrite {
+  WriteResult result;
+  OpenFile file;
+};
+
+// writePatches without the flush; the caller flushes `file` (flushTogether)
+// before it reports the file saved. A failed write is still undone and
+// flushed here.
+UnflushedWrite writeWithoutFlush(const std::filesystem::path& path, const FileIdentity& opened,
+                                 std::span<const BytePatch> patches, const WriteFunction& write = {});
 
 }  // namespace InPlaceWriter

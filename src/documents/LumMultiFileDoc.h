@@ -20,6 +20,7 @@
 #include <string_view>
 #include <vector>
 
+#include "documents/BatchFlush.h"
 #include "documents/DateTargets.h"
 #include "documents/DateTextRules.h"
 #include "documents/FieldLimits.h"
@@ -185,6 +186,15 @@ class LumMultiFileDoc : public QObject {
   // Replaces the system write (tests make it fail part way). A save calls it
   // from several threads at once.
   void setWriteFunction(InPlaceWriter::WriteFunction write) { writeFunction_ = std::move(write); }
+  // A save writes this many files, then flushes them together while it
+  // writes the next as many; so it holds at most twice as many descriptors.
+  static constexpr std::size_t kFilesPerFlush = 256;
+  // Replaces the file system flush (tests make it fail) and the number of
+  // files one flush covers.
+  void setFlushFunction(InPlaceWriter::FlushFunction flush, std::size_t filesPerFlush = kFilesPerFlush) {
+    flushFunction_ = std::move(flush);
+    filesPerFlush_ = filesPerFlush;
+  }
 
   // Used by the undo commands: put the texts of a set in place.
   void applyDateSet(const LumDateSet& set);
@@ -204,14 +214,20 @@ class LumMultiFileDoc : public QObject {
  private:
   struct SaveJob;
   struct SaveResult;
+  struct SaveHooks {
+    InPlaceWriter::WriteFunction write;
+    InPlaceWriter::FlushFunction flush;
+    std::size_t filesPerFlush = kFilesPerFlush;
+  };
 
   DateTextRules::Offsets signedOffsets() const;
   bool allFieldsZero() const;
   void fillSetTimeFieldsWithNow();
   void markEdit(const std::vector<LumFileItemDoc*>& items, bool on, bool onlyWithDates);
   static SaveResult saveOne(const SaveJob& job, const InPlaceWriter::WriteFunction& write);
-  std::shared_ptr<std::vector<SaveResult>> saveJobs(const std::vector<SaveJob>& jobs,
-                                                    const InPlaceWriter::WriteFunction& write);
+  static void flushSaved(std::vector<SaveResult>& results, const std::vector<std::size_t>& jobs,
+                         const InPlaceWriter::FlushFunction& flush);
+  std::shared_ptr<std::vector<SaveResult>> saveJobs(const std::vector<SaveJob>& jobs, const SaveHooks& hooks);
   void afterSaving(const std::shared_ptr<std::vector<SaveResult>>& results, bool closeAfterSave, bool quitApp);
 
   std::vector<std::unique_ptr<LumFileItemDoc>> items_;
@@ -228,5 +244,7 @@ class LumMultiFileDoc : public QObject {
   QUndoStack undoStack_;
   bool saving_ = false;
   InPlaceWriter::WriteFunction writeFunction_;
+  InPlaceWriter::FlushFunction flushFunction_;
+  std::size_t filesPerFlush_ = kFilesPerFlush;
   std::unique_ptr<QThreadPool> operationQueue_;
 };

@@ -38,10 +38,13 @@ bool LumSingleFileDoc::saveFileAll(bool /*all*/, bool closeAfterSave, bool quitA
   outcome.saved = written.ok;
   if (written.ok) {
     undoStack_.clear();  // clean, and a save cannot be undone
-    // Scan the saved file again so the originals, the stamp and the bytes
-    // are what is on disk now. Should that fail, the old model stays.
-    if (std::unique_ptr<LumImageFile> reread = LumImageFile::imageFileAfterSave(*fileURL_, imageFile_->imageData()))
-      replaceImageFile(std::move(reread));
+    // Scan the saved file again so the originals and the stamp are what is
+    // on disk now, provided it is still the file this save left. Should that
+    // fail, the old model stays, and its stamp keeps a later save from
+    // writing into a file another program changed.
+    if (written.stamp)
+      if (std::unique_ptr<LumImageFile> reread = LumImageFile::imageFileIfUnchanged(*fileURL_, *written.stamp))
+        replaceImageFile(std::move(reread));
     rememberShownDates();
     outcome.closeDocument = closeAfterSave;
     outcome.continueQuit = quitApp;

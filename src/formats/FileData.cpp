@@ -1,12 +1,10 @@
 #include "formats/FileData.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <fcntl.h>
-#include <sys/mman.h>
+#include <new>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -14,18 +12,32 @@ namespace lum {
 
 namespace {
 
-// Mappings held by FileData objects now.
-std::atomic<std::size_t> liveMappings{0};
-
-ReadFailure failureFor(const std::filesystem::path& path, int error) {
-  ReadFailure f;
-  f.reason = std::strerror(error);
-  f.description = "The file \"" + path.filename().string() + "\" couldn't be opened.";
-  f.recoverySuggestion = error == EACCES ? "Check the file's permissions." : "Check that the file exists and is a regular file.";
-  return f;
+// What the user can do about a failed read, by its cause; nothing is
+// suggested where nothing would help.
+const char* suggestionFor(int error) {
+  switch (error) {
+    case EACCES:
+    case EPERM: return "Check the file's permissions.";
+    case ENOENT:
+    case ENOTDIR: return "Check that the file exists.";
+    case EISDIR:
+    case EINVAL: return "Choose a regular file, not a folder or a device.";
+    case ENOMEM: return "Close other programs to free memory, then try again.";
+    default: return "";
+  }
 }
 
-// Closes the descriptor on every path out of the factories.
+ReadFailure failureFor(const std::filesystem::path& path, int error) {
+  return {std::strerror(error), "The file \"" + path.filename().string() + "\" couldn't be opened.",
+          suggestionFor(error)};
+}
+
+ReadFailure changedFailure(const std::filesystem::path& path) {
+  return {kChangedSinceOpenedReason, "The file \"" + path.filename().string() + "\" couldn't be read again.",
+          "Open the file again."};
+}
+
+// Closes the descriptor on every path out of read().
 struct Descriptor {
   int fd;
   ~Descriptor() {
@@ -33,19 +45,25 @@ struct Descriptor {
   }
 };
 
-// True when file was opened and is a regular file (its stat in *st);
-// otherwise fills *failure when given.
-bool isOpenRegularFile(const Descriptor& file, const std::filesystem::path& path, struct stat* st,
-                       ReadFailure* failure) {
-  if (file.fd < 0 || ::fstat(file.fd, st) != 0) {
-    if (failure) *failure = failureFor(path, errno);
-    return false;
+// Reads up to `expected` bytes of the open file from its start into a
+// buffer that is not zero-filled first; a file cut short while it is read
+// gives what was there. Answers 0 or the errno.
+int readStart(int fd, std::size_t expected, std::unique_ptr<std::uint8_t[]>* buffer, std::size_t* size) {
+  try {
+    *buffer = std::make_unique_for_overwrite<std::uint8_t[]>(expected);
+  } catch (const std::bad_alloc&) {
+    return ENOMEM;
   }
-  if (!S_ISREG(st->st_mode)) {
-    if (failure) *failure = failureFor(path, S_ISDIR(st->st_mode) ? EISDIR : EINVAL);
-    return false;
+  std::size_t done = 0;
+  while (done < expected) {
+    const ssize_t n = ::pread(fd, buffer->get() + done, expected - done, static_cast<off_t>(done));
+    if (n < 0 && errno == EINTR) continue;
+    if (n < 0) return errno;
+    if (n == 0) break;
+    done += static_cast<std::size_t>(n);
   }
-  return true;
+  *size = done;
+  return 0;
 }
 
 }  // namespace
@@ -62,126 +80,40 @@ std::optional<FileStamp> FileStamp::of(const std::filesystem::path& path) {
   return FileStamp::ofStat(st);
 }
 
-namespace {
-
-// Reads `expected` bytes of the open file into memory, from its start; a
-// file cut short while it is read gives what was there. Answers 0 or the
-// errno.
-int readStart(int fd, std::size_t expected, std::unique_ptr<std::uint8_t[]>* buffer, std::size_t* size) {
-  // Not zero-filled first: every byte kept is read from the file.
-  *buffer = std::make_unique_for_overwrite<std::uint8_t[]>(expected);
-  std::size_t done = 0;
-  while (done < expected) {
-    const ssize_t n = ::pread(fd, buffer->get() + done, expected - done, static_cast<off_t>(done));
-    if (n < 0 && errno == EINTR) continue;
-    if (n < 0) return errno;
-    if (n == 0) break;
-    done += static_cast<std::size_t>(n);
-  }
-  *size = done;
-  return 0;
-}
-
-}  // namespace
-
-std::shared_ptr<const FileData> FileData::briefFile(const std::filesystem::path& path, ReadFailure* failure) {
-  const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
-  struct stat st {};
-  if (!isOpenRegularFile(file, path, &st, failure)) return nullptr;
-  const auto size = static_cast<std::size_t>(st.st_size);
-  if (size <= kBriefReadUpTo) return readOpenFile(file.fd, st, size, path, failure);
-  return mapOpenFile(file.fd, st, path, failure);
-}
-
-FileData::MappedWithHead FileData::mapFileWithHead(const std::filesystem::path& path, std::size_t headLength,
+std::shared_ptr<const FileData> FileData::readHead(const std::filesystem::path& path, std::size_t length,
                                                    ReadFailure* failure) {
-  return openWithHead(path, headLength, nullptr, failure);
+  return read(path, nullptr, length, failure);
 }
 
-FileData::MappedWithHead FileData::mapFileWithHeadAfterWrite(const std::filesystem::path& path,
-                                                             std::size_t headLength,
-                                                             std::shared_ptr<const FileData> opened,
-                                                             ReadFailure* failure) {
-  return openWithHead(path, headLength, std::move(opened), failure);
+std::shared_ptr<const FileData> FileData::readIfUnchanged(const std::filesystem::path& path, const FileStamp& opened,
+                                                          std::size_t length, ReadFailure* failure) {
+  return read(path, &opened, length, failure);
 }
 
-FileData::MappedWithHead FileData::openWithHead(const std::filesystem::path& path, std::size_t headLength,
-                                                std::shared_ptr<const FileData> reusable, ReadFailure* failure) {
+std::shared_ptr<const FileData> FileData::read(const std::filesystem::path& path, const FileStamp* opened,
+                                               std::size_t length, ReadFailure* failure) {
   const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
   struct stat st {};
-  if (!isOpenRegularFile(file, path, &st, failure)) return {};
-  const auto size = static_cast<std::size_t>(st.st_size);
-  if (size == 0) {
-    auto empty = readOpenFile(file.fd, st, 0, path, failure);
-    return {empty, empty};
-  }
-  auto head = readOpenFile(file.fd, st, std::min(headLength, size), path, failure);
-  if (!head) return {};
-  if (auto same = restamped(std::move(reusable), FileStamp::ofStat(st))) return {std::move(same), std::move(head)};
-  auto whole = mapOpenFile(file.fd, st, path, failure);
-  if (!whole) return {};
-  return {std::move(whole), std::move(head)};
-}
-
-// The bytes of `mapping` with the file's new stamp, when the mapping still
-// shows that file (same device, inode and size); nullptr otherwise.
-std::shared_ptr<const FileData> FileData::restamped(std::shared_ptr<const FileData> mapping, const FileStamp& stamp) {
-  if (!mapping || !mapping->stamp_ || !mapping->isMapped()) return nullptr;
-  const FileStamp& was = *mapping->stamp_;
-  if (was.device != stamp.device || was.inode != stamp.inode || was.size != stamp.size) return nullptr;
-  auto data = std::make_shared<FileData>(Key{});
-  data->stamp_ = stamp;
-  data->data_ = mapping->data_;
-  data->size_ = mapping->size_;
-  data->shared_ = mapping->shared_ ? mapping->shared_ : std::move(mapping);
-  return data;
-}
-
-// Maps the whole of the open, non-empty file read-only.
-std::shared_ptr<const FileData> FileData::mapOpenFile(int fd, const struct stat& st,
-                                                      const std::filesystem::path& path, ReadFailure* failure) {
-  const auto size = static_cast<std::size_t>(st.st_size);
-  void* mapping = ::mmap(nullptr, size, PROT_READ, MAP_SHARED, fd, 0);
-  if (mapping == MAP_FAILED) {
-    if (failure) *failure = failureFor(path, errno);
+  const int openError = file.fd < 0 || ::fstat(file.fd, &st) != 0 ? errno : !S_ISREG(st.st_mode) ? EINVAL : 0;
+  // A path that no longer opens is a changed file too when one was expected.
+  if (openError || (opened && FileStamp::ofStat(st) != *opened)) {
+    if (failure) *failure = opened && openError != EACCES ? changedFailure(path) : failureFor(path, openError);
     return nullptr;
   }
   auto data = std::make_shared<FileData>(Key{});
-  data->stamp_ = FileStamp::ofStat(st);
-  data->mapping_ = mapping;
-  liveMappings.fetch_add(1, std::memory_order_relaxed);
-  data->data_ = static_cast<const std::uint8_t*>(mapping);
-  data->size_ = size;
-  return data;
-}
-
-std::shared_ptr<const FileData> FileData::readFile(const std::filesystem::path& path, ReadFailure* failure) {
-  const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
-  struct stat st {};
-  if (!isOpenRegularFile(file, path, &st, failure)) return nullptr;
-  return readOpenFile(file.fd, st, static_cast<std::size_t>(st.st_size), path, failure);
-}
-
-std::shared_ptr<const FileData> FileData::readHead(const std::filesystem::path& path, std::size_t length,
-                                                   ReadFailure* failure) {
-  const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
-  struct stat st {};
-  if (!isOpenRegularFile(file, path, &st, failure)) return nullptr;
-  return readOpenFile(file.fd, st, std::min(length, static_cast<std::size_t>(st.st_size)), path, failure);
-}
-
-// Reads the first `length` bytes of the open file.
-std::shared_ptr<const FileData> FileData::readOpenFile(int fd, const struct stat& st, std::size_t length,
-                                                       const std::filesystem::path& path, ReadFailure* failure) {
-  auto data = std::make_shared<FileData>(Key{});
-  std::size_t size = 0;
-  if (const int error = readStart(fd, length, &data->buffer_, &size)) {
+  const std::size_t wanted = std::min(length, static_cast<std::size_t>(st.st_size));
+  if (const int error = readStart(file.fd, wanted, &data->buffer_, &data->size_)) {
     if (failure) *failure = failureFor(path, error);
+    return nullptr;
+  }
+  // A file written to or cut short while it was read is no longer the one
+  // opened either.
+  if (opened && (::fstat(file.fd, &st) != 0 || FileStamp::ofStat(st) != *opened)) {
+    if (failure) *failure = changedFailure(path);
     return nullptr;
   }
   data->stamp_ = FileStamp::ofStat(st);
   data->data_ = data->buffer_.get();
-  data->size_ = size;
   return data;
 }
 
@@ -192,31 +124,6 @@ std::shared_ptr<const FileData> FileData::fromBytes(std::vector<std::uint8_t> by
   data->data_ = data->owned_.data();
   data->size_ = data->owned_.size();
   return data;
-}
-
-namespace {
-
-std::size_t mappingBudget() {
-  static const std::size_t budget = [] {
-    std::size_t kernelLimit = 65530;
-    if (std::FILE* f = std::fopen("/proc/sys/vm/max_map_count", "re")) {
-      unsigned long value = 0;
-      if (std::fscanf(f, "%lu", &value) == 1 && value > 0) kernelLimit = value;
-      std::fclose(f);
-    }
-    return std::min(FileData::kMappingBudget, kernelLimit / 2);
-  }();
-  return budget;
-}
-
-}  // namespace
-
-bool FileData::mayKeepAnotherMapping() { return liveMappings.load(std::memory_order_relaxed) < mappingBudget(); }
-
-FileData::~FileData() {
-  if (!mapping_) return;
-  ::munmap(mapping_, size_);
-  liveMappings.fetch_sub(1, std::memory_order_relaxed);
 }
 
 }  // namespace lum

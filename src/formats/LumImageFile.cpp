@@ -90,35 +90,32 @@ LumImageFile::~LumImageFile() {
 
 std::unique_ptr<LumImageFile> LumImageFile::imageFileWithURL(const std::filesystem::path& url, LumError* error,
                                                              Holding holding) {
+  return open(url, std::nullopt, error, holding);
+}
+
+std::unique_ptr<LumImageFile> LumImageFile::imageFileIfUnchanged(const std::filesystem::path& url,
+                                                                 const lum::FileStamp& expected, LumError* error) {
+  return open(url, expected, error, Holding::Kept);
+}
+
+std::unique_ptr<LumImageFile> LumImageFile::open(const std::filesystem::path& url,
+                                                 std::optional<lum::FileStamp> expected, LumError* error,
+                                                 Holding holding) {
   lum::ReadFailure failure;
-  if (holding == Holding::Kept && lum::FileData::mayKeepAnotherMapping())
-    return fromMapped(lum::FileData::mapFileWithHead(url, kHeadBytes[0], &failure), failure, error);
-  // A listing's file; also a document's once the process holds as many
-  // mappings as it may: it then keeps the bytes it was parsed from, which
-  // are all that is read of them after opening.
-  std::shared_ptr<const lum::FileData> data;
+  const auto read = [&](std::size_t length) {
+    return expected ? lum::FileData::readIfUnchanged(url, *expected, length, &failure)
+                    : lum::FileData::readHead(url, length, &failure);
+  };
   for (const std::size_t length : kHeadBytes) {
-    data = lum::FileData::readHead(url, length, &failure);
-    if (!data || data->holdsWholeFile()) break;
-    if (auto file = fromHead(data, data, holding)) return file;
+    auto data = read(length);
+    if (!data || data->holdsWholeFile()) return fromWhole(std::move(data), failure, error, holding);
+    // Later reads must see the same file as this one.
+    expected = data->stampAsOpened();
+    // A TIFF's directories may lie anywhere: it is read whole.
+    if (ImageDecoder::kindOf(data->bytes()) != ImageDecoder::Kind::JPEG) break;
+    if (auto file = fromHead(data, holding)) return file;
   }
-  if (data && !data->holdsWholeFile()) data = lum::FileData::briefFile(url, &failure);
-  return fromWhole(std::move(data), failure, error, holding);
-}
-
-std::unique_ptr<LumImageFile> LumImageFile::imageFileAfterSave(const std::filesystem::path& url,
-                                                               std::shared_ptr<const lum::FileData> opened) {
-  if (!(opened && opened->isMapped())) return imageFileWithURL(url, nullptr);
-  lum::ReadFailure failure;
-  return fromMapped(lum::FileData::mapFileWithHeadAfterWrite(url, kHeadBytes[0], std::move(opened), &failure),
-                    failure, nullptr);
-}
-
-std::unique_ptr<LumImageFile> LumImageFile::fromMapped(lum::FileData::MappedWithHead mapped,
-                                                       const lum::ReadFailure& failure, LumError* error) {
-  if (mapped.whole && !mapped.whole->empty())
-    if (auto file = fromHead(mapped.head, mapped.whole)) return file;
-  return fromWhole(std::move(mapped.whole), failure, error);
+  return fromWhole(read(lum::FileData::kWholeFile), failure, error, holding);
 }
 
 std::unique_ptr<LumImageFile> LumImageFile::fromWhole(std::shared_ptr<const lum::FileData> data,
@@ -131,30 +128,23 @@ std::unique_ptr<LumImageFile> LumImageFile::fromWhole(std::shared_ptr<const lum:
     if (error) *error = lumError(-2, data ? "the file is empty" : failure.reason);
     return nullptr;
   }
-  return fromData(std::move(data), error, holding);
-}
-
-std::unique_ptr<LumImageFile> LumImageFile::fromData(std::shared_ptr<const lum::FileData> data, LumError* error,
-                                                     Holding holding) {
   auto file = std::make_unique<LumImageFile>();
   file->holding_ = holding;
   if (!file->searchImageDataAndMakeExifObject(data->bytes(), error)) return nullptr;
-  file->finishOpening(std::move(data));
+  file->finishOpening(data);
   return file;
 }
 
 std::unique_ptr<LumImageFile> LumImageFile::fromHead(const std::shared_ptr<const lum::FileData>& head,
-                                                    std::shared_ptr<const lum::FileData> keep, Holding holding) {
+                                                    Holding holding) {
   // Every read of the marker walk and of the TIFF structure goes through this
   // view, so a read it never refused lay inside the head and gave the bytes
   // the whole file holds there. The decoder's header check reads the bytes
   // in order up to the first scan; when it accepts, it found all it needed
   // before the head's end. Bounds that compare with the file's size take the
-  // whole file's size. TIFF files are left to the full path: their
-  // directories may lie anywhere.
+  // whole file's size.
   bool refused = false;
   const orb::ByteView bytes(head->bytes().data(), head->bytes().size(), &refused);
-  if (ImageDecoder::kindOf(bytes) != ImageDecoder::Kind::JPEG) return nullptr;
   auto file = std::make_unique<LumImageFile>();
   file->holding_ = holding;
   // A failure here is not reported: the whole file gives the same one, or
@@ -163,12 +153,12 @@ std::unique_ptr<LumImageFile> LumImageFile::fromHead(const std::shared_ptr<const
   std::vector<std::string> consoleLines;
   if (!file->scan(bytes, head->stampAsOpened()->size, nullptr, &consoleLines) || refused) return nullptr;
   for (const std::string& line : consoleLines) orb::logLine(line);
-  file->finishOpening(std::move(keep));
+  file->finishOpening(head);
   return file;
 }
 
-void LumImageFile::finishOpening(std::shared_ptr<const lum::FileData> data) {
-  setImageData(std::move(data));
+void LumImageFile::finishOpening(const std::shared_ptr<const lum::FileData>& data) {
+  setImageData(data);
   // The scan left the header's offset here; it is cleared on purpose. Date
   // writes take the header location from the TIFF structure instead.
   setTiffHeaderLocation(0);
@@ -229,8 +219,8 @@ bool LumImageFile::takeDates(orb::ByteView data, std::uint64_t headerLocation, s
   return true;
 }
 
-void LumImageFile::setImageData(std::shared_ptr<const lum::FileData> data) {
-  imageData_ = std::move(data);
+void LumImageFile::setImageData(const std::shared_ptr<const lum::FileData>& data) {
+  stamp_ = data ? data->stampAsOpened() : std::nullopt;
   if (!tiff_) return;
   // A date that is not valid leaves the field as it was.
   if (auto d = validDate(*tiff_, LumDateField::DateTimeOriginal)) dateTimeOriginal_ = std::move(d);
@@ -239,11 +229,6 @@ void LumImageFile::setImageData(std::shared_ptr<const lum::FileData> data) {
   subSecOriginal_ = textOf(*tiff_, kSubSecTimeOriginal, kExifIFDID);
   subSecDigitized_ = textOf(*tiff_, kSubSecTimeDigitized, kExifIFDID);
   subSec_ = textOf(*tiff_, kSubSecTime, kExifIFDID);
-}
-
-std::optional<lum::FileStamp> LumImageFile::stampAsOpened() const {
-  if (!imageData_) return std::nullopt;
-  return imageData_->stampAsOpened();
 }
 
 std::vector<std::string> LumImageFile::JFIFKeys() const {

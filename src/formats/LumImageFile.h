@@ -1,15 +1,17 @@
 #pragma once
-// One opened photo file (JPEG with Exif, or TIFF): its bytes, where its TIFF
-// header lies, the parsed TIFF structure, and its dates as they stood when it
-// was opened.
+// One opened photo file (JPEG with Exif, or TIFF): where its TIFF header
+// lies, the parsed TIFF structure, its JFIF fields, its dates as they stood
+// when it was opened, and the file's identity at that moment.
 //
 // A file is accepted by content, never by name: "II"/"MM" at offset 0 is a
 // TIFF, FF D8 a JPEG, and the decoder must accept the image's header. A JPEG
 // without Exif opens too; it simply has no TIFF structure and no dates.
 //
-// The bytes (a read-only mapping, or a copy read for a listing) are held for
-// the object's life. Every read of the marker walk and of the JFIF fields is
-// bounded by the file size; a cut or malformed file is taken as having
+// The bytes the scan read are let go once it is done: everything kept is a
+// copy. Whatever needs the file later (a thumbnail, saving, reading it again
+// after a save) reads it anew and first checks that it is still the file
+// that was opened. Every read of the marker walk and of the JFIF fields is
+// bounded by the bytes read; a cut or malformed file is taken as having
 // nothing there, never read past.
 
 #include <atomic>
@@ -65,36 +67,30 @@ class LumImageFile {
   // logged (orb::logLine) as "LumImageFile - NSData error ..."), -1 for a file
   // that is neither JPEG nor TIFF or that the decoder refuses.
   //
-  // Holding::DatesOnly is for a caller that reads the dates and lets the
-  // file go at once (listing a folder). A JPEG is then opened from the
-  // file's first kHeadBytes[0] bytes alone whenever the scan provably found
-  // everything it looked for there, else from the first kHeadBytes[1]; only
-  // a file whose scan wanted more is read whole. Such an object's
-  // imageData() may be that head, so it serves for its dates, never for
-  // saving or decoding. The dates are read without building the TIFF
-  // structure wherever that gives the same texts: tiff() is then null and
-  // dateValueOffset() answers nothing.
+  // A JPEG is parsed from the file's first kHeadBytes[0] bytes alone
+  // whenever the scan provably found everything it looked for there, else
+  // from the first kHeadBytes[1]; only a file whose scan wanted more, and a
+  // TIFF, whose directories may lie anywhere, are read whole.
   //
-  // Holding::Kept (a document) keeps a mapping of the whole file, but a JPEG
-  // is parsed from a copy of its first kHeadBytes[0] bytes when that
-  // provably suffices, so that opening does not fault in the mapping's pages.
-  // Once the process holds as many mappings as it may
-  // (FileData::mayKeepAnotherMapping), a file is held as DatesOnly holds it.
+  // Holding::DatesOnly is for a caller that reads the dates and lets the
+  // file go at once (listing a folder): the dates are read without building
+  // the TIFF structure wherever that gives the same texts; tiff() is then
+  // null and dateValueOffset() answers nothing. Holding::Kept (a document)
+  // builds the structure.
   enum class Holding { Kept, DatesOnly };
+  static std::unique_ptr<LumImageFile> imageFileWithURL(const std::filesystem::path& url, LumError* error,
+                                                        Holding holding = Holding::Kept);
   // Most cameras' headers (Exif with its thumbnail, tables, frame header)
   // fit in the first; those with large maker notes in the second.
   static constexpr std::size_t kHeadBytes[] = {16 * 1024, 64 * 1024};
-  static std::unique_ptr<LumImageFile> imageFileWithURL(const std::filesystem::path& url, LumError* error,
-                                                        Holding holding = Holding::Kept);
 
-  // The file at url opened again after the program saved into it in place.
-  // It keeps the mapping it was opened with (`opened`, its image data),
-  // which shows the new bytes, rather than making a second one: a document
-  // saving thousands of files would otherwise hold two mappings a file until
-  // the save ends, against the system's limit on mappings. Nullptr when the
-  // file does not open.
-  static std::unique_ptr<LumImageFile> imageFileAfterSave(const std::filesystem::path& url,
-                                                          std::shared_ptr<const lum::FileData> opened);
+  // The same, only while the file at url is still the one stamped
+  // `expected` (the stamp a save left): opening a saved file again never
+  // picks up what another program put there meanwhile. Nullptr, with -2 and
+  // the reason, when the file changed.
+  static std::unique_ptr<LumImageFile> imageFileIfUnchanged(const std::filesystem::path& url,
+                                                            const lum::FileStamp& expected,
+                                                            LumError* error = nullptr);
 
   LumImageFile();
   ~LumImageFile();
@@ -116,13 +112,14 @@ class LumImageFile {
   // walk reads its next marker.
   void pSearchJFIF(orb::ByteView bytes, std::uint64_t* location, std::uint64_t fileSize);
 
-  // Keeps the bytes and derives the six original strings from the current
-  // TIFF structure.
-  void setImageData(std::shared_ptr<const lum::FileData> data);
-  const std::shared_ptr<const lum::FileData>& imageData() const { return imageData_; }
+  // Takes the identity of the file the bytes were read from (none for bytes
+  // that came from no file) and derives the six original strings from the
+  // current TIFF structure. The bytes themselves are not kept.
+  void setImageData(const std::shared_ptr<const lum::FileData>& data);
 
-  // Size and modification time of the file as it was opened.
-  std::optional<lum::FileStamp> stampAsOpened() const;
+  // The file's identity as it was opened: what a save and every later read
+  // check the file on disk against.
+  const std::optional<lum::FileStamp>& stampAsOpened() const { return stamp_; }
 
   std::uint64_t tiffHeaderLocation() const { return tiffHeaderLocation_; }
   void setTiffHeaderLocation(std::uint64_t location) { tiffHeaderLocation_ = location; }
@@ -193,34 +190,30 @@ class LumImageFile {
   void setOperation(CancelFlag operation);
 
  private:
-  static std::unique_ptr<LumImageFile> fromMapped(lum::FileData::MappedWithHead mapped,
-                                                 const lum::ReadFailure& failure, LumError* error);
+  // Opens from reads of the file, each made only while the file is still
+  // the one stamped *expected when that is given.
+  static std::unique_ptr<LumImageFile> open(const std::filesystem::path& url, std::optional<lum::FileStamp> expected,
+                                            LumError* error, Holding holding);
   // Opens from the whole file's bytes, or reports why there are none
   // (failure, or an empty file).
   static std::unique_ptr<LumImageFile> fromWhole(std::shared_ptr<const lum::FileData> data,
-                                                 const lum::ReadFailure& failure, LumError* error,
-                                                 Holding holding = Holding::Kept);
-  static std::unique_ptr<LumImageFile> fromData(std::shared_ptr<const lum::FileData> data, LumError* error,
-                                                Holding holding);
+                                                 const lum::ReadFailure& failure, LumError* error, Holding holding);
   // Opens from the head of a JPEG when its scan provably found all it
-  // needed there, keeping `keep` (the head itself, or the whole file's
-  // mapping); nullptr otherwise.
-  static std::unique_ptr<LumImageFile> fromHead(const std::shared_ptr<const lum::FileData>& head,
-                                                std::shared_ptr<const lum::FileData> keep,
-                                                Holding holding = Holding::Kept);
+  // needed there; nullptr otherwise.
+  static std::unique_ptr<LumImageFile> fromHead(const std::shared_ptr<const lum::FileData>& head, Holding holding);
   // The work of searchImageDataAndMakeExifObject(), bounded by the size of
   // the whole file, which the bytes may only begin. Console lines of the
   // TIFF parse go to consoleLines when given (see OrbTiff::exifWithPtr).
   bool scan(orb::ByteView data, std::uint64_t fileSize, LumError* error,
             std::vector<std::string>* consoleLines = nullptr);
-  void finishOpening(std::shared_ptr<const lum::FileData> data);
+  void finishOpening(const std::shared_ptr<const lum::FileData>& data);
   // Sets the six original strings straight from the bytes, for a file held
   // for its dates only; false (nothing set) when that cannot give what the
   // TIFF structure would.
   bool takeDates(orb::ByteView data, std::uint64_t headerLocation, std::uint64_t fileSize,
                  std::vector<std::string>* consoleLines);
 
-  std::shared_ptr<const lum::FileData> imageData_;
+  std::optional<lum::FileStamp> stamp_;
   std::optional<LumRange> jfifSegmentRange_;
   std::optional<LumRange> exifSegmentRange_;
   std::uint64_t tiffHeaderLocation_ = 0;

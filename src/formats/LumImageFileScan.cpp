@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::uint16_t kAPP0 = 0xFFE0;
 constexpr std::uint16_t kAPP1 = 0xFFE1;
+constexpr std::uint16_t kSOS = 0xFFDA;
 constexpr std::uint32_t kExif = 0x45786966;  // "Exif"
 constexpr std::uint32_t kJFIF = 0x4A464946;  // "JFIF"
 
@@ -44,9 +45,11 @@ bool LumImageFile::pSearchJPEG(orb::ByteView bytes, std::uint64_t* location, std
     if (!marker) return false;
     loc += 2;
   }
-  // Every segment up to the first APP1 is skipped by its length, SOS and EOI
-  // included; the file size is the only bound.
+  // Every segment up to the first APP1 is skipped by its length. The walk
+  // ends at the start of scan: what follows is entropy-coded image data, so
+  // a file without Exif is not read to its end to learn that it has none.
   while (*marker != kAPP1) {
+    if (*marker == kSOS) return false;
     const std::uint64_t lengthField = loc;
     const auto length = bytes.u16(lengthField);
     if (!length) return false;

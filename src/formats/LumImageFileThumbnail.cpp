@@ -98,15 +98,19 @@ void LumImageFile::makeThumbnail() {
   if (thumbnail()) return;
   const auto url = fileURL();
   if (!url) return;
-  // Made from bytes read now rather than from the mapping made at opening:
-  // the file may have been cut short by another program since, and reading
-  // costs little next to decoding. A camera's thumbnail lies in the file's
-  // first bytes; only without one is the whole file read.
+  // Read now, and only while the file is still the one opened: another
+  // program may have changed it since, and this thumbnail must show what the
+  // dates belong to. A camera's thumbnail lies in the file's first bytes;
+  // only without one is the whole file read.
+  const auto read = [&](std::size_t length) {
+    return stamp_ ? lum::FileData::readIfUnchanged(*url, *stamp_, length) : lum::FileData::readHead(*url, length);
+  };
   std::shared_ptr<const lum::Bitmap> result;
-  if (const auto head = lum::FileData::readHead(*url, kHeadBytes[1])) result = fromEmbeddedThumbnail(head->bytes());
-  if (!result) {
-    const auto data = lum::FileData::readFile(*url);
-    if (data) result = thumbnailOfBytes(data->bytes());
+  if (const auto head = read(kHeadBytes[1])) {
+    result = fromEmbeddedThumbnail(head->bytes());
+    if (!result && head->holdsWholeFile()) result = thumbnailOfBytes(head->bytes());
+    if (!result && !head->holdsWholeFile())
+      if (const auto whole = read(lum::FileData::kWholeFile)) result = thumbnailOfBytes(whole->bytes());
   }
   setThumbnail(result ? result : errorImage());
 }

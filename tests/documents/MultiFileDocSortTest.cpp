@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -17,13 +18,13 @@ using Comparison = int (LumFileItemDoc::*)(const LumFileItemDoc&) const;
 using Descriptors = std::vector<LumMultiFileDoc::SortDescriptor>;
 
 Comparison comparisonNamed(const std::string& key) {
-  if (key == "FileName") return &LumFileItemDoc::compareForFileName;
-  if (key == "DateTime") return &LumFileItemDoc::compareForDateTime;
-  if (key == "DateTimeDigitized") return &LumFileItemDoc::compareForDateTimeDigitized;
-  if (key == "DateTimeOriginal") return &LumFileItemDoc::compareForDateTimeOriginal;
-  if (key == "Edited") return &LumFileItemDoc::compareForEdited;
-  if (key == "Edit") return &LumFileItemDoc::compareForEdit;
-  return nullptr;
+  static const std::map<std::string, Comparison> kByKey{
+      {"FileName", &LumFileItemDoc::compareForFileName}, {"DateTime", &LumFileItemDoc::compareForDateTime},
+      {"DateTimeDigitized", &LumFileItemDoc::compareForDateTimeDigitized},
+      {"DateTimeOriginal", &LumFileItemDoc::compareForDateTimeOriginal},
+      {"Edited", &LumFileItemDoc::compareForEdited}, {"Edit", &LumFileItemDoc::compareForEdit}};
+  const auto it = kByKey.find(key);
+  return it == kByKey.end() ? nullptr : it->second;
 }
 
 std::vector<const LumFileItemDoc*> rows(const LumMultiFileDoc& doc) {
@@ -75,18 +76,10 @@ struct SortFixture : ::testing::Test {
 
 TEST_F(SortFixture, EveryColumnAndCombinationGivesTheRowsOwnOrder) {
   const std::vector<Descriptors> cases{
-      {{"FileName", true}},
-      {{"FileName", false}},
-      {{"DateTime", true}},
-      {{"DateTimeDigitized", false}},
-      {{"DateTimeOriginal", true}},
-      {{"Edited", true}},
-      {{"Edited", false}},
-      {{"Edit", true}},
-      {{"Edit", false}, {"Edited", true}},
-      {{"Edited", true}, {"DateTimeOriginal", false}, {"FileName", true}},
-      {{"NoSuchColumn", true}, {"DateTimeDigitized", true}},
-      LumMultiFileDoc::initialSortDescriptors(),
+      {{"FileName", true}}, {{"FileName", false}}, {{"DateTime", true}}, {{"DateTimeDigitized", false}},
+      {{"DateTimeOriginal", true}}, {{"Edited", true}}, {{"Edited", false}}, {{"Edit", true}},
+      {{"Edit", false}, {"Edited", true}}, {{"Edited", true}, {"DateTimeOriginal", false}, {"FileName", true}},
+      {{"NoSuchColumn", true}, {"DateTimeDigitized", true}}, LumMultiFileDoc::initialSortDescriptors(),
   };
   for (const Descriptors& by : cases) {
     SCOPED_TRACE(by.front().key + (by.front().ascending ? " up" : " down") + " +" + std::to_string(by.size() - 1));

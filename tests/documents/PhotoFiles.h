@@ -15,9 +15,7 @@
 
 namespace doctest_support {
 
-struct PhotoDates {
-  std::optional<std::string> original, digitized, edited;
-};
+struct PhotoDates { std::optional<std::string> original, digitized, edited; };
 
 // A JPEG whose Exif APP1 comes right after SOI (TIFF header at 12), with a
 // 20-byte ASCII value for each given date.

@@ -29,10 +29,7 @@ TEST(SaveReport, OneFailureNamesTheFileAndGivesTheReasonAfterABlankLine) {
   EXPECT_EQ(alert->informativeText, "Save Completed: 0\n\n");
 }
 
-struct ListCase {
-  int total, failed;
-  QString message, informative;
-};
+struct ListCase { int total, failed; QString message, informative; };
 
 TEST(SaveReport, ListsAtMostTenFailuresThenDots) {
   const std::vector<ListCase> cases{

@@ -60,11 +60,7 @@ bool isCanonical(const std::string& text) {
   return f->at(0) >= 1 && ymd.ok() && f->at(3) < 24 && f->at(4) < 60 && f->at(5) < 60;
 }
 
-struct RealFile {
-  std::string name;
-  json design;
-  std::vector<std::uint8_t> bytes;
-};
+struct RealFile { std::string name; json design; std::vector<std::uint8_t> bytes; };
 
 std::vector<std::size_t> differences(const std::vector<std::uint8_t>& a, const std::vector<std::uint8_t>& b) {
   std::vector<std::size_t> at;

@@ -1,7 +1,7 @@
 // A JPEG is parsed from its head alone only when that gives exactly what
 // parsing the whole file gives; whenever the scan wants a byte past the head,
-// the whole file is read. A listing then keeps only the head, an opened
-// document always the whole file.
+// the whole file is read. Either way the file opens, or fails, as parsing all
+// of its bytes at once does.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -66,30 +66,16 @@ Bytes nextIFDPastTheEnd(Bytes bytes) {
   return bytes;
 }
 
-// What parsing the bytes in memory, all of them at once, shows.
+// What parsing the bytes in memory, all of them at once, shows (or the
+// error it gives).
 json shownFromAllBytes(const Bytes& bytes) {
   LumImageFile file;
-  EXPECT_TRUE(file.searchImageDataAndMakeExifObject(orb::ByteView(bytes.data(), bytes.size()), nullptr));
+  LumError error;
+  if (!file.searchImageDataAndMakeExifObject(orb::ByteView(bytes.data(), bytes.size()), &error))
+    return {{"error", error.code}, {"reason", error.reason}};
   file.setImageData(lum::FileData::fromBytes(bytes));
   file.setEdit(!file.noDateTimes());
   return lumtest::shown(file);
-}
-
-struct Holdings {
-  std::unique_ptr<LumImageFile> kept, listed;
-  std::string keptConsole, listedConsole;
-};
-
-Holdings openBothWays(const std::filesystem::path& path) {
-  Holdings h;
-  LumError error;
-  testing::internal::CaptureStderr();
-  h.kept = LumImageFile::imageFileWithURL(path, &error);
-  h.keptConsole = testing::internal::GetCapturedStderr();
-  testing::internal::CaptureStderr();
-  h.listed = LumImageFile::imageFileWithURL(path, &error, LumImageFile::Holding::DatesOnly);
-  h.listedConsole = testing::internal::GetCapturedStderr();
-  return h;
 }
 
 std::size_t occurrences(const std::string& text, const std::string& what) {
@@ -100,91 +86,49 @@ std::size_t occurrences(const std::string& text, const std::string& what) {
 
 TEST(HeadOpening, AgreesWithParsingTheWholeFile) {
   const Bytes dated = JpegBuilder().exif(datedExif()).build();
+  const Bytes notAnImage = {0xFF, 0xD8, 0xFF, 0xE1, 0x00, 0x08, 'E', 'x', 'i', 'f', 0, 0};
   const struct {
     const char* name;
     Bytes bytes;
-    bool fromHead;  // whether a listing's head alone sufficed
     std::size_t consoleLines;
   } cases[] = {
-      {"dates in the head, image data after it", withTrailer(JpegBuilder().jfif(1, 1).exif(datedExif()).build()),
-       true, 0},
-      {"shorter than the head", dated, false, 0},
+      {"dates in the head, image data after it", withTrailer(JpegBuilder().jfif(1, 1).exif(datedExif()).build()), 0},
+      {"shorter than the head", dated, 0},
       {"headers past the first head but inside the second",
-       withTrailer(JpegBuilder().exif(datedExif()).segment(0xE2, filler(kFirstHead)).build()), true, 0},
-      {"a date value stored past the head", dateMovedTo(withTrailer(dated), kHead + 1000), false, 0},
+       withTrailer(JpegBuilder().exif(datedExif()).segment(0xE2, filler(kFirstHead)).build()), 0},
+      {"a date value stored past the head", dateMovedTo(withTrailer(dated), kHead + 1000), 0},
       {"segments before the image reaching past the head",
        withTrailer(JpegBuilder().exif(datedExif()).segment(0xE2, filler(60000)).segment(0xE3, filler(20000)).build()),
-       false, 0},
-      // Without an APP1 the marker walk goes on through the image data to
-      // the file's end, so it needs the whole file.
-      {"no Exif", withTrailer(JpegBuilder().jfif(1, 2).build()), false, 0},
-      {"next IFD past the end", nextIFDPastTheEnd(withTrailer(dated)), true, 1},
+       0},
+      {"no Exif", withTrailer(JpegBuilder().jfif(1, 2).build()), 0},
+      {"next IFD past the end", nextIFDPastTheEnd(withTrailer(dated)), 1},
       // Every head tried parses IFD0 and meets the bad offset; the line is
       // still printed once, by the parse that is kept.
       {"next IFD past the end, a date past the head",
-       nextIFDPastTheEnd(dateMovedTo(withTrailer(dated), kHead + 1000)), false, 1},
+       nextIFDPastTheEnd(dateMovedTo(withTrailer(dated), kHead + 1000)), 1},
+      {"FF D8 then noise", withTrailer(notAnImage), 0},
+      {"Exif and no image", withTrailer(JpegBuilder().exif(datedExif()).build(false)), 0},
+      {"a TIFF header without an image", withTrailer({'I', 'I', 42, 0, 8, 0, 0, 0, 0, 0}), 0},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
     const lumtest::TempFile temp(c.bytes);
-    const Holdings h = openBothWays(temp.path());
-    ASSERT_TRUE(h.kept && h.listed);
     const json expected = shownFromAllBytes(c.bytes);
-    EXPECT_EQ(lumtest::shown(*h.kept), expected);
     // A listing holds no TIFF structure, only the texts it prints.
     json listed = expected;
-    listed["tiffHeaderLocation"] = nullptr;
-    listed["date_offsets"] = json::object();
-    EXPECT_EQ(lumtest::shown(*h.listed), listed);
-    EXPECT_EQ(!h.listed->imageData()->holdsWholeFile(), c.fromHead);
-    // A kept file holds the whole file whichever bytes were parsed.
-    const orb::ByteView keptBytes = h.kept->imageData()->bytes();
-    EXPECT_TRUE(std::equal(keptBytes.data(), keptBytes.data() + keptBytes.size(), c.bytes.begin(), c.bytes.end()));
-    EXPECT_EQ(occurrences(h.keptConsole, "nextIFDLocation: (2147483647)"), c.consoleLines) << h.keptConsole;
-    EXPECT_EQ(occurrences(h.listedConsole, "nextIFDLocation: (2147483647)"), c.consoleLines) << h.listedConsole;
-  }
-}
-
-// The kernel's limit on mappings is shared with every thread stack and large
-// allocation: past the budget, a document keeps what a listing keeps.
-TEST(HeadOpening, PastTheMappingBudgetADocumentKeepsItsHead) {
-  const lumtest::TempFile filler(Bytes(100, 'x'), "filler.jpg");
-  std::vector<std::shared_ptr<const lum::FileData>> held;
-  while (lum::FileData::mayKeepAnotherMapping() && held.size() <= lum::FileData::kMappingBudget)
-    held.push_back(lum::FileData::mapFileWithHead(filler.path(), 16).whole);
-  ASSERT_FALSE(lum::FileData::mayKeepAnotherMapping());
-
-  const Bytes bytes = withTrailer(JpegBuilder().exif(datedExif()).build());
-  const lumtest::TempFile temp(bytes);
-  const auto file = LumImageFile::imageFileWithURL(temp.path(), nullptr);
-  ASSERT_TRUE(file);
-  EXPECT_FALSE(file->imageData()->isMapped());
-  EXPECT_FALSE(file->imageData()->holdsWholeFile());
-  EXPECT_EQ(lumtest::shown(*file), shownFromAllBytes(bytes));
-  // Saved and opened again, it still maps nothing.
-  const auto reread = LumImageFile::imageFileAfterSave(temp.path(), file->imageData());
-  ASSERT_TRUE(reread);
-  EXPECT_FALSE(reread->imageData()->isMapped());
-
-  held.pop_back();
-  EXPECT_TRUE(lum::FileData::mayKeepAnotherMapping());
-  EXPECT_TRUE(LumImageFile::imageFileWithURL(temp.path(), nullptr)->imageData()->isMapped());
-}
-
-TEST(HeadOpening, RefusedFilesGiveTheSameError) {
-  Bytes notAnImage = {0xFF, 0xD8, 0xFF, 0xE1, 0x00, 0x08, 'E', 'x', 'i', 'f', 0, 0};
-  const struct { const char* name; Bytes bytes; } cases[] = {
-      {"FF D8 then noise", withTrailer(notAnImage)},
-      {"Exif and no image", withTrailer(JpegBuilder().exif(datedExif()).build(false))},
-      {"a TIFF header without an image", withTrailer({'I', 'I', 42, 0, 8, 0, 0, 0, 0, 0})},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.name);
-    const lumtest::TempFile temp(c.bytes);
-    LumError keptError, listedError;
-    EXPECT_EQ(LumImageFile::imageFileWithURL(temp.path(), &keptError), nullptr);
-    EXPECT_EQ(LumImageFile::imageFileWithURL(temp.path(), &listedError, LumImageFile::Holding::DatesOnly), nullptr);
-    EXPECT_EQ(listedError, keptError);
+    if (!expected.contains("error")) {
+      listed["tiffHeaderLocation"] = nullptr;
+      listed["date_offsets"] = json::object();
+    }
+    for (const auto holding : {LumImageFile::Holding::Kept, LumImageFile::Holding::DatesOnly}) {
+      LumError error;
+      testing::internal::CaptureStderr();
+      const auto file = LumImageFile::imageFileWithURL(temp.path(), &error, holding);
+      const std::string console = testing::internal::GetCapturedStderr();
+      const json got = file ? lumtest::shown(*file) : json{{"error", error.code}, {"reason", error.reason}};
+      EXPECT_EQ(got, holding == LumImageFile::Holding::Kept ? expected : listed);
+      EXPECT_EQ(occurrences(console, "nextIFDLocation: (2147483647)"), c.consoleLines) << console;
+    }
   }
 }
 

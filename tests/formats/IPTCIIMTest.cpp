@@ -38,19 +38,14 @@ TEST(IPTCIIMWalk, StopsWithoutReadingOutsideTheBuffer) {
   const Bytes good = dataSet(2, 5, text("Test"));
   struct Case { const char* what; Bytes bytes; std::size_t kept; };
   const Case cases[] = {
-      {"empty buffer", {}, 0},
-      {"wrong marker after a dataset", good + Bytes{0x1D, 2, 25, 0, 1, 'x'}, 1},
-      {"zero padding after a dataset", good + Bytes{0, 0, 0}, 1},
-      {"header cut short", good + Bytes{0x1C, 2, 25, 0}, 1},
+      {"empty buffer", {}, 0}, {"wrong marker after a dataset", good + Bytes{0x1D, 2, 25, 0, 1, 'x'}, 1},
+      {"zero padding after a dataset", good + Bytes{0, 0, 0}, 1}, {"header cut short", good + Bytes{0x1C, 2, 25, 0}, 1},
       {"data runs past the end", good + Bytes{0x1C, 2, 25, 0, 9, 'a', 'b'}, 1},
       {"extended length bytes past the end", good + Bytes{0x1C, 2, 25, 0x80, 0x04, 0, 0}, 1},
       {"extended data past the end", good + Bytes{0x1C, 2, 25, 0x80, 0x02, 0x00, 0x40, 'a'}, 1},
       {"huge extended count", good + Bytes{0x1C, 2, 25, 0xFF, 0xFF, 1}, 1},
   };
-  for (const Case& c : cases) {
-    auto iim = walk(c.bytes);
-    EXPECT_EQ(iim->dataSets().size(), c.kept) << c.what;
-  }
+  for (const Case& c : cases) EXPECT_EQ(walk(c.bytes)->dataSets().size(), c.kept) << c.what;
 }
 
 TEST(IPTCIIMWalk, ExtendedDatasetStartsOneByteEarlyAndAdvancesBySizeWord) {
@@ -104,22 +99,13 @@ TEST(IPTCIIMEncoding, TextConstructorEncodesWithoutTerminator) {
 TEST(IIMDataSetText, ShapesDatesTimesAndCodedValues) {
   struct Case { std::uint8_t record, number; std::string data, shown; };
   const Case cases[] = {
-      {2, 55, "20230415", "2023-04-15"},
-      {1, 70, "19991231", "1999-12-31"},
-      {2, 55, "2023041", "2023041"},
-      {2, 60, "101530+0900", "10:15:30 +09:00"},
-      {2, 35, "101530", "10:15:30"},
-      {2, 60, "1015", "1015"},
-      {2, 42, "02", "Object Replace"},
-      {2, 42, "07", "07"},
-      {2, 150, "2M", "Stereo - Music, transmitted by itself"},
-      {2, 151, "011025", "11025 Hz"},
-      {2, 152, "16", "16 bits"},
-      {2, 153, "000130", "00:01:30"},
-      {1, 100, "20230415IPTC:obj1:v2", "[20230415] [IPTC] [obj1] [v2]"},
-      {2, 105, "20230415", "20230415"},
-      {3, 130, std::string(1, '\0'), "Not Allowed"},
-      {3, 135, "\x08\x08\x10", "8, 8, 16"},
+      {2, 55, "20230415", "2023-04-15"}, {1, 70, "19991231", "1999-12-31"}, {2, 55, "2023041", "2023041"},
+      {2, 60, "101530+0900", "10:15:30 +09:00"}, {2, 35, "101530", "10:15:30"}, {2, 60, "1015", "1015"},
+      {2, 42, "02", "Object Replace"}, {2, 42, "07", "07"}, {2, 150, "2M", "Stereo - Music, transmitted by itself"},
+      {2, 151, "011025", "11025 Hz"}, {2, 152, "16", "16 bits"}, {2, 153, "000130", "00:01:30"},
+      {1, 100, "20230415IPTC:obj1:v2", "[20230415] [IPTC] [obj1] [v2]"}, {2, 105, "20230415", "20230415"},
+      {3, 130, std::string(1, '\0'), "Not Allowed"}, {3, 135, "\x08\x08\x10", "8, 8, 16"}, {3, 135, "AB", "AB"},
+      {2, 131, "P", "Portrait"},
   };
   for (const Case& c : cases) {
     const OrbIIMDataSet d(c.record, c.number, text(c.data));
@@ -129,11 +115,8 @@ TEST(IIMDataSetText, ShapesDatesTimesAndCodedValues) {
 
 TEST(IIMDataSetText, ObjectAttributeNameNeedsThreeDigitsFrom1To22) {
   struct Case { std::uint8_t number; std::string data, name; };
-  const Case cases[] = {
-      {4, "005:Feature", "Feature"}, {4, "001", "Current"},   {4, "022:x", "Press Release"},
-      {4, "023:xyz", ""},            {4, "5:Feature", ""},    {4, "000:x", ""},
-      {4, "0a5", ""},                {5, "005:Feature", ""},
-  };
+  const Case cases[] = {{4, "005:Feature", "Feature"}, {4, "001", "Current"}, {4, "022:x", "Press Release"},
+                        {4, "023:xyz", ""}, {4, "5:Feature", ""}, {4, "000:x", ""}, {4, "0a5", ""}, {5, "005:Feature", ""}};
   for (const Case& c : cases)
     EXPECT_EQ(OrbIIMDataSet(2, c.number, text(c.data)).localizedObjectAttributeName(), c.name) << c.data;
 }

@@ -32,10 +32,7 @@ class TempFile {
   std::filesystem::path dir_, path_;
 };
 
-struct Opened {
-  std::unique_ptr<LumImageFile> file;
-  LumError error;
-};
+struct Opened { std::unique_ptr<LumImageFile> file; LumError error; };
 
 inline Opened openBytes(const Bytes& bytes) {
   TempFile temp(bytes);

@@ -24,10 +24,6 @@ using cattest::rationals;
 using cattest::shorts;
 using cattest::text;
 
-OrbIFDEntry byteEntry(std::int8_t endian, std::uint16_t tag, std::uint8_t value) {
-  return cattest::withBytes(endian, tag, kGPSIFDID, kOrbTypeByte, 1, {value});
-}
-
 OrbTiff tiffOf(std::int8_t endian, const std::vector<OrbIFDEntry>& entries) {
   OrbTiff tiff;
   tiff.setEndian(endian);
@@ -51,14 +47,9 @@ TEST(InspectorRows, JpegWithOnlyJFIFShowsOnlyTheJFIFGroup) {
 
 TEST(InspectorRows, BigEndianTiffStartsWithItsByteOrderAndKeepsDisplayOrder) {
   const std::int8_t M = kOrbBigEndian;
-  const OrbTiff tiff = tiffOf(M, {
-      shorts(M, 274, kTIFFIFDID, 6),
-      text(M, 272, kTIFFIFDID, "Model Z"),
-      text(M, 271, kTIFFIFDID, "Maker"),
-      text(M, 306, kTIFFIFDID, "2001:02:03 04:05:06"),
-      shorts(M, 0x0100, kTIFFIFDID, 640),
-      shorts(M, 273, kTIFFIFDID, 8),  // StripOffsets: not listed
-  });
+  const OrbTiff tiff = tiffOf(M, {shorts(M, 274, kTIFFIFDID, 6), text(M, 272, kTIFFIFDID, "Model Z"),
+                                  text(M, 271, kTIFFIFDID, "Maker"), text(M, 306, kTIFFIFDID, "2001:02:03 04:05:06"),
+                                  shorts(M, 0x0100, kTIFFIFDID, 640), shorts(M, 273, kTIFFIFDID, 8)});
   const auto rows = LumInfoDataSource::rowsFor(&tiff, nullptr, {{}, {}, "2001:02:03 04:05:06"});
   EXPECT_EQ(texts(rows), (std::vector<std::string>{"# TIFF", "TIFF|Byte Order|Big Endian",
                                                    "TIFF|Date Time|2001:02:03 04:05:06", "TIFF|Make|Maker",
@@ -71,14 +62,9 @@ TEST(InspectorRows, BigEndianTiffStartsWithItsByteOrderAndKeepsDisplayOrder) {
 TEST(InspectorRows, GroupsWithoutListedTagsHaveNoHeading) {
   const std::int8_t I = kOrbLittleEndian;
   // The Exif IFD holds only tags the inspector does not list; GPS only its references.
-  const OrbTiff tiff = tiffOf(I, {
-      text(I, 271, kTIFFIFDID, "Maker"),
-      shorts(I, 0x8769, kTIFFIFDID, 0),
-      text(I, 0xA434, kExifIFDID, "Lens"),
-      shorts(I, 0x1234, kExifIFDID, 1),
-      text(I, 1, kGPSIFDID, "N"),
-      text(I, 1, kInteroperabilityIFDID, "R98"),
-  });
+  const OrbTiff tiff = tiffOf(I, {text(I, 271, kTIFFIFDID, "Maker"), shorts(I, 0x8769, kTIFFIFDID, 0),
+                                  text(I, 0xA434, kExifIFDID, "Lens"), shorts(I, 0x1234, kExifIFDID, 1),
+                                  text(I, 1, kGPSIFDID, "N"), text(I, 1, kInteroperabilityIFDID, "R98")});
   EXPECT_EQ(texts(LumInfoDataSource::rowsFor(&tiff, nullptr, {})),
             (std::vector<std::string>{"# TIFF", "TIFF|Byte Order|Little Endian", "TIFF|Make|Maker",
                                       "# Interoperability", "Interoperability|Interoperability Index|R98"}));
@@ -89,12 +75,9 @@ TEST(InspectorRows, GroupsWithoutListedTagsHaveNoHeading) {
 
 TEST(InspectorRows, DateRowsShowTheDatesAsOpened) {
   const std::int8_t I = kOrbLittleEndian;
-  const OrbTiff tiff = tiffOf(I, {
-      text(I, 306, kTIFFIFDID, "2024:01:01 00:00:00"),
-      text(I, 36867, kExifIFDID, "2024:01:01 00:00:00"),
-      text(I, 36868, kExifIFDID, "    :  :     :  :  "),
-      text(I, 37521, kExifIFDID, "25"),
-  });
+  const OrbTiff tiff = tiffOf(I, {text(I, 306, kTIFFIFDID, "2024:01:01 00:00:00"),
+                                  text(I, 36867, kExifIFDID, "2024:01:01 00:00:00"),
+                                  text(I, 36868, kExifIFDID, "    :  :     :  :  "), text(I, 37521, kExifIFDID, "25")});
   // An edited, unsaved DateTimeOriginal; a blank DateTimeDigitized that was not kept.
   const LumInfoOriginalDates dates{"2019:05:06 07:08:09", std::nullopt, "2018:01:02 03:04:05"};
   EXPECT_EQ(texts(LumInfoDataSource::rowsFor(&tiff, nullptr, dates)),
@@ -105,16 +88,11 @@ TEST(InspectorRows, DateRowsShowTheDatesAsOpened) {
 
 TEST(InspectorRows, GPSValuesWithTheirReferences) {
   const std::int8_t M = kOrbBigEndian;
-  const OrbTiff tiff = tiffOf(M, {
-      text(M, 1, kGPSIFDID, "S"),
-      rationals(M, 2, kGPSIFDID, {35, 1, 30, 1, 0, 1}),
-      text(M, 3, kGPSIFDID, "W"),
-      rationals(M, 4, kGPSIFDID, {139, 1, 45, 1, 36, 1}),
-      byteEntry(M, 5, 1),
-      rationals(M, 6, kGPSIFDID, {105, 10}),
-      rationals(M, 7, kGPSIFDID, {13, 1, 5, 1, 725, 100}),
-      text(M, 29, kGPSIFDID, "2021:06:30"),
-  });
+  const OrbTiff tiff = tiffOf(M, {text(M, 1, kGPSIFDID, "S"), rationals(M, 2, kGPSIFDID, {35, 1, 30, 1, 0, 1}),
+                                  text(M, 3, kGPSIFDID, "W"), rationals(M, 4, kGPSIFDID, {139, 1, 45, 1, 36, 1}),
+                                  cattest::withBytes(M, 5, kGPSIFDID, kOrbTypeByte, 1, {1}),
+                                  rationals(M, 6, kGPSIFDID, {105, 10}),
+                                  rationals(M, 7, kGPSIFDID, {13, 1, 5, 1, 725, 100}), text(M, 29, kGPSIFDID, "2021:06:30")});
   EXPECT_EQ(texts(LumInfoDataSource::rowsFor(&tiff, nullptr, {})),
             (std::vector<std::string>{"# GPS", "GPS|GPS Latitude|35\u00B0 30' 0.00\" S (-35.5)",
                                       "GPS|GPS Longitude|139\u00B0 45' 36.00\" W (-139.76)",

@@ -36,18 +36,14 @@ TEST(JFIFRecord, FieldsLandAtTheirOffsets) {
 }
 
 TEST(JFIFRecord, KeysTakeTheLowBits) {
+  // The value set under each key, and what the key reads back.
+  const std::tuple<const char*, int, std::optional<int>> cases[] = {
+      {"X Density", 65608, 72}, {"Density Unit", 0x1FF, -1}, {"Thumbnail Width", 0x102, 2},
+      {"Y Density", 7, 7},      {"Thumbnail Height", 0, 0},  {"JFIF Version", 9, std::nullopt}};
   OrbJFIF jfif;
-  jfif.setValue(65608, "X Density");
-  jfif.setValue(0x1FF, "Density Unit");
-  jfif.setValue(0x102, "Thumbnail Width");
-  jfif.setValue(7, "Y Density");
-  jfif.setValue(9, "JFIF Version");
+  for (const auto& [key, value, read] : cases) jfif.setValue(value, key);
+  for (const auto& [key, value, read] : cases) EXPECT_EQ(jfif.numberForKey(key), read) << key;
   EXPECT_EQ(jfif.XDensity(), 72);
-  EXPECT_EQ(jfif.numberForKey("Density Unit"), -1);
-  EXPECT_EQ(jfif.numberForKey("Thumbnail Width"), 2);
-  EXPECT_EQ(jfif.numberForKey("Y Density"), 7);
-  EXPECT_EQ(jfif.numberForKey("Thumbnail Height"), 0);
-  EXPECT_EQ(jfif.numberForKey("JFIF Version"), std::nullopt);
   EXPECT_EQ(jfif.version(), (OrbJFIFVersion{0, 0}));
 }
 

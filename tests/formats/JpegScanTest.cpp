@@ -1,6 +1,8 @@
 // The JPEG marker walk and the JFIF fields, on hand-built segment layouts.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "formats/LumImageFile.h"
 #include "support/JpegBuilder.h"
 
@@ -9,6 +11,7 @@ namespace {
 using lumtest::Bytes;
 using lumtest::JpegBuilder;
 
+const Bytes kSOS = {0xFF, 0xDA};
 const Bytes kTiff = lumtest::exifTiff({{0x0132, std::string("2020:01:02 03:04:05\0", 20)}}, {});
 
 struct Walk {
@@ -22,17 +25,6 @@ Walk walk(const Bytes& bytes) {
   w.location = 2;
   w.found = w.file->pSearchJPEG(orb::ByteView(bytes.data(), bytes.size()), &w.location, bytes.size());
   return w;
-}
-
-TEST(JpegScan, JfifThenExif) {
-  const Walk w = walk(JpegBuilder().jfif(1, 1, 1, 72, 72).exif(kTiff).build());
-  ASSERT_TRUE(w.found);
-  EXPECT_EQ(w.location, 30u);
-  EXPECT_EQ(w.file->tiffHeaderLocation(), 30u);
-  EXPECT_EQ(w.file->JFIFSegmentRange(), (LumRange{2, 18}));
-  ASSERT_TRUE(w.file->exifSegmentRange());
-  EXPECT_EQ(w.file->exifSegmentRange()->location, 20u);
-  EXPECT_EQ(w.file->exifSegmentRange()->length, kTiff.size() + 10);  // marker, length, "Exif\0\0"
 }
 
 TEST(JpegScan, JfifFieldTexts) {
@@ -68,7 +60,13 @@ TEST(JpegScan, Layouts) {
     Bytes bytes;
     bool found;
     std::uint64_t header;  // when found
+    std::optional<LumRange> exif = {}, jfif = {};  // checked when given
   };
+  // An APP0 with thumbnail pixels that spell an Exif APP1: the walk goes on
+  // right after the thumbnail sizes, so it finds them, which shows where it
+  // stands.
+  Bytes pixels = {0xFF, 0xE1, 0x00, 0x10, 'E', 'x', 'i', 'f', 0, 0};
+  pixels.resize(12, 0);
   const Case cases[] = {
       {"APP1 right after SOI", JpegBuilder().exif(kTiff).build(), true, 12},
       {"XMP APP1 before Exif", JpegBuilder().jfif(1, 1).xmp().exif(kTiff).build(), false, 0},
@@ -78,8 +76,13 @@ TEST(JpegScan, Layouts) {
        true, 2 + 12 + 10},
       {"later APP0 skipped", JpegBuilder().segment(0xDB, Bytes(4, 0)).jfif(1, 1).exif(kTiff).build(), true,
        2 + 8 + 18 + 10},
+      {"XMP first: its range is kept", JpegBuilder().xmp("abc").exif(kTiff).build(), false, 0, LumRange{2, 2 + 2 + 29 + 3}},
+      {"JFIF thumbnail pixels", JpegBuilder().jfif(1, 1, 1, 72, 72, 2, 2, pixels).build(), true, 2 + 18 + 10, {},
+       LumRange{2, 30}},
       {"APP1 of another kind only", JpegBuilder().segment(0xE1, {'Q', 'V', 'C', 'I', 0, 0}).build(), false, 0},
-      {"no APP1: the walk runs off the end", JpegBuilder().jfif(1, 1).build(), false, 0},
+      {"no APP1", JpegBuilder().jfif(1, 1).build(), false, 0},
+      {"Exif after the start of scan", JpegBuilder().jfif(1, 1).raw({0xFF, 0xDA, 0, 2}).exif(kTiff).build(false),
+       false, 0},
       {"segment reaching exactly the end",
        JpegBuilder().segment(0xDB, Bytes(6, 0), 8).build(false), false, 0},
       {"length carrying past the end", JpegBuilder().segment(0xDB, Bytes(6, 0), 0xFFFF).exif(kTiff).build(), false, 0},
@@ -95,27 +98,22 @@ TEST(JpegScan, Layouts) {
     if (c.found) {
       EXPECT_EQ(w.location, c.header) << c.name;
     }
+    if (c.exif) {
+      EXPECT_EQ(w.file->exifSegmentRange(), c.exif) << c.name;
+    }
+    if (c.jfif) {
+      EXPECT_EQ(w.file->JFIFSegmentRange(), c.jfif) << c.name;
+    }
   }
 }
 
-TEST(JpegScan, FirstApp1RangeIsKeptWhateverItHolds) {
-  const Walk w = walk(JpegBuilder().xmp("abc").exif(kTiff).build());
-  EXPECT_FALSE(w.found);
-  ASSERT_TRUE(w.file->exifSegmentRange());
-  EXPECT_EQ(w.file->exifSegmentRange()->location, 2u);
-  EXPECT_EQ(w.file->exifSegmentRange()->length, 2u + 2 + 29 + 3);
-}
-
-TEST(JpegScan, JfifWithThumbnailPixelsContinuesInsideThem) {
-  // The walk goes on right after the thumbnail sizes; with pixels there the
-  // next "marker" is read from them. Pixels that spell FF E1 + an Exif
-  // payload are therefore found, which shows where the walk stands.
-  Bytes pixels = {0xFF, 0xE1, 0x00, 0x10, 'E', 'x', 'i', 'f', 0, 0};
-  pixels.resize(12, 0);
-  const Walk w = walk(JpegBuilder().jfif(1, 1, 1, 72, 72, 2, 2, pixels).build());
-  EXPECT_TRUE(w.found);
-  EXPECT_EQ(w.location, 2u + 18 + 10);
-  EXPECT_EQ(w.file->JFIFSegmentRange(), (LumRange{2, 30}));
+TEST(JpegScan, AFileWithoutExifIsNotReadPastItsStartOfScan) {
+  Bytes b = JpegBuilder().jfif(1, 1).build();
+  b.resize(static_cast<std::size_t>(std::search(b.begin(), b.end(), kSOS.begin(), kSOS.end()) - b.begin()) + 4);
+  bool refused = false;
+  std::uint64_t location = 2;
+  EXPECT_FALSE(LumImageFile().pSearchJPEG(orb::ByteView(b.data(), b.size(), &refused), &location, 1u << 30));
+  EXPECT_FALSE(refused);
 }
 
 TEST(JpegScan, CutJfifGivesNoDictionary) {

@@ -19,13 +19,11 @@ TEST(RealFiles, EveryFileAgreesWithItsExpectedRecord) {
   LUMTEST_REQUIRE_REAL_DATA();
   const auto names = lumtest::realFileNames();
   ASSERT_FALSE(names.empty());
-  // A listing opens files from their head whenever that provably gives the
-  // same result; both ways must agree with the record.
-  const struct { const char* name; LumImageFile::Holding holding; } holdings[] = {
-      {"kept", LumImageFile::Holding::Kept}, {"dates only", LumImageFile::Holding::DatesOnly}};
   for (const std::string& name : names) {
-    for (const auto& [holdingName, holding] : holdings) {
-      SCOPED_TRACE(name + ", " + holdingName);
+    // A listing reads the dates without the TIFF structure whenever that
+    // gives the same texts; both ways must agree with the record.
+    for (const auto holding : {LumImageFile::Holding::Kept, LumImageFile::Holding::DatesOnly}) {
+      SCOPED_TRACE(name + (holding == LumImageFile::Holding::Kept ? ", kept" : ", dates only"));
       const json& expected = lumtest::expectedFor(name).at("design");
       LumError error;
       const auto file = LumImageFile::imageFileWithURL(*lumtest::realDataDir() / name, &error, holding);
@@ -90,7 +88,7 @@ TEST(RealFiles, CutFilesOpenOrFailCleanly) {
         // A kept date always lies inside the bytes.
         const auto offset = file->dateValueOffset(field);
         if (file->originalString(field) && offset) {
-          EXPECT_TRUE(file->imageData()->bytes().contains(*offset, 19)) << n;
+          EXPECT_LE(*offset + 19, n) << n;
         }
       }
     }

@@ -62,28 +62,16 @@ Found scanTIFF(orb::ByteView file) {
 
 // IPTC datasets of each file as the peer tool exiftool (12.57, -v2 -a) lists
 // them: count over all places they are stored, and the first keyword.
-struct PeerIPTC {
-  const char* file;
-  std::size_t count;
-  const char* firstKeyword;
-};
+struct PeerIPTC { const char* file; std::size_t count; const char* firstKeyword; };
 constexpr PeerIPTC kPeerIPTC[] = {
-    {"app13-first-no-image.jpg", 13, "Green"},
-    {"canon-5d3-ii.tif", 16, "DLM_Dalaman"},
-    {"canon-mm-datetime-only.tif", 19, "exiftool"},
-    {"com-first-iso-datetime.jpg", 13, "Green"},
-    {"exif-pointer-wrong-type.jpg", 2, ""},
-    {"exif0231-datetime-only.tif", 16, ""},
-    {"fujifilm-dx5-blank-dto.jpg", 0, ""},
-    {"mwg-no-make-subsec.jpg", 15, "WRONG1of2-IPTC-Keywords"},
-    {"nikon-d1x-mm-gps-app13.jpg", 32, "ronald reagan"},
-    {"nikon-d1x-mm.tif", 31, "ronald reagan"},
-    {"nikon-d3s-offsettime-iptc.jpg", 10, "133_Beecroft Claire_Kandora"},
-    {"nikon-e950-jfif-app13.jpg", 0, ""},
-    {"nokia-lumia800-gps-iptc.jpg", 6, "2012"},
-    {"photomechanic-app13-first-no-exif.jpg", 27, "Keywords"},
-    {"photoshop-iso-offset-datetime.jpg", 9, "test keyword 1"},
-    {"xmp-first-then-exif.jpg", 5, "tag"},
+    {"app13-first-no-image.jpg", 13, "Green"}, {"canon-5d3-ii.tif", 16, "DLM_Dalaman"},
+    {"canon-mm-datetime-only.tif", 19, "exiftool"}, {"com-first-iso-datetime.jpg", 13, "Green"},
+    {"exif-pointer-wrong-type.jpg", 2, ""}, {"exif0231-datetime-only.tif", 16, ""},
+    {"fujifilm-dx5-blank-dto.jpg", 0, ""}, {"mwg-no-make-subsec.jpg", 15, "WRONG1of2-IPTC-Keywords"},
+    {"nikon-d1x-mm-gps-app13.jpg", 32, "ronald reagan"}, {"nikon-d1x-mm.tif", 31, "ronald reagan"},
+    {"nikon-d3s-offsettime-iptc.jpg", 10, "133_Beecroft Claire_Kandora"}, {"nikon-e950-jfif-app13.jpg", 0, ""},
+    {"nokia-lumia800-gps-iptc.jpg", 6, "2012"}, {"photomechanic-app13-first-no-exif.jpg", 27, "Keywords"},
+    {"photoshop-iso-offset-datetime.jpg", 9, "test keyword 1"}, {"xmp-first-then-exif.jpg", 5, "tag"},
 };
 
 TEST(RecordsConformance, PhotoshopAndIPTCAgreeWithExpected) {

@@ -48,10 +48,8 @@ inline json shown(const LumImageFile& f) {
       {"DateTime", textOrNull(f.originalDateTimeString())},
       {"SubSecTimeOriginal", textOrNull(f.originalSubSecDateTimeOriginalString())},
       {"SubSecTimeDigitized", textOrNull(f.originalSubSecDateTimeDigitizedString())},
-      {"SubSecTime", textOrNull(f.originalSubSecDateTimeString())},
-      {"editable", f.isEdit()},
-      {"date_offsets", dateOffsets(f)},
-      {"jfif", jfifOrNull(f)},
+      {"SubSecTime", textOrNull(f.originalSubSecDateTimeString())}, {"editable", f.isEdit()},
+      {"date_offsets", dateOffsets(f)}, {"jfif", jfifOrNull(f)},
       {"JFIFSegmentRange", rangeOrNull(f.JFIFSegmentRange())},
       {"exifSegmentRange", rangeOrNull(f.exifSegmentRange())},
   };

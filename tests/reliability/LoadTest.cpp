@@ -13,6 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <functional>
 
 #include "DatedPhotos.h"
 #include "DocumentHarness.h"
@@ -42,6 +43,13 @@ long peakKB() {
   return usage.ru_maxrss;
 }
 
+bool mapsAnyFileIn(const fs::path& folder) {
+  std::ifstream maps("/proc/self/maps");
+  for (std::string line; std::getline(maps, line);)
+    if (line.find(folder.string()) != std::string::npos) return true;
+  return false;
+}
+
 // Runs `lumidate-cli shift --days 1 folder`; answers its exit status and peak memory.
 std::pair<int, long> shiftWithTool(const fs::path& folder) {
   const pid_t pid = reltest::startShiftByOneDay(folder);
@@ -66,6 +74,7 @@ TEST(Load, ManyFilesStayBoundedLeakNoDescriptorAndEndAsIntended) {
   {
     auto doc = reltest::openDocument(paths);
     ASSERT_EQ(doc->rowCount(), count);
+    EXPECT_FALSE(mapsAnyFileIn(folder.path())) << "an opened file stays mapped";
     const std::size_t descriptorsLoaded = openDescriptors();
     const long residentLoaded = residentKB();
 
@@ -104,6 +113,36 @@ TEST(Load, ManyFilesStayBoundedLeakNoDescriptorAndEndAsIntended) {
   for (std::size_t i = 0; i < paths.size(); ++i) ASSERT_EQ(reltest::readAll(paths[i]), intended[i]) << paths[i];
   reltest::reportFigure("load: command-line peak resident MB", static_cast<double>(toolPeakKB) / 1024.0);
   reltest::reportFigure("load: command-line peak resident KB per file", static_cast<double>(toolPeakKB) / count);
+}
+
+// A file changed by another program after the document opened it is not
+// saved, and keeps the bytes the other program left; the others are saved.
+TEST(Load, FilesChangedAfterOpeningAreNotWritten) {
+  const std::function<void(const fs::path&)> changes[] = {
+      nullptr,  // left alone: saved
+      [](const fs::path& p) { fs::resize_file(p, fs::file_size(p) / 2); },
+      [](const fs::path& p) {  // replaced by a copy of itself with the same time
+        fs::copy_file(p, p.string() + ".copy");
+        fs::last_write_time(p.string() + ".copy", fs::last_write_time(p));
+        fs::rename(p.string() + ".copy", p);
+      },
+  };
+  reltest::ScratchFolder folder;
+  const auto paths = reltest::writeSmallPhotos(folder.path(), static_cast<int>(std::size(changes)));
+  reltest::qtApp();
+  auto doc = reltest::openDocument(paths);
+  reltest::shiftAllOneDay(*doc);
+  std::vector<std::vector<std::uint8_t>> before;
+  for (std::size_t i = 0; i < paths.size(); ++i) {
+    if (changes[i]) changes[i](paths[i]);
+    before.push_back(reltest::readAll(paths[i]));
+  }
+  const auto outcome = reltest::saveAndWait(*doc);
+  ASSERT_TRUE(outcome.has_value());
+  ASSERT_EQ(outcome->failures.size(), 2u);
+  for (const SaveReport::Failure& f : outcome->failures) EXPECT_EQ(f.reason, InPlaceWriter::kChangedOnDiskReason);
+  EXPECT_EQ(reltest::readAll(paths[0]), reltest::shiftedBytes(before[0], {0, 0, 1, 0, 0, 1}));
+  for (std::size_t i = 1; i < paths.size(); ++i) EXPECT_EQ(reltest::readAll(paths[i]), before[i]) << paths[i];
 }
 
 }  // namespace

@@ -13,9 +13,12 @@
 #include <csignal>
 #include <cstring>
 #include <functional>
+#include <map>
+#include <set>
 #include <system_error>
 
 #include "DatedPhotos.h"
+#include "DocumentHarness.h"
 #include "support/TestData.h"
 
 using reltest::DatedPhoto;
@@ -53,132 +56,6 @@ std::pair<std::uint64_t, std::uint64_t> runOf(const DatedPhoto& photo) {
   return {first, end};
 }
 
-void setModifiedLater(const fs::path& path) {
-  struct stat st {};
-  ::stat(path.c_str(), &st);
-  const timespec times[2] = {st.st_atim, {st.st_mtim.tv_sec + 5, st.st_mtim.tv_nsec}};
-  ::utimensat(AT_FDCWD, path.c_str(), times, 0);
-}
-
-// ---- the file changes between opening and saving ---------------------------
-
-struct DiskChange {
-  const char* name;
-  std::function<void(const fs::path&, const DatedPhoto&)> apply;
-  const char* reason;  // nullptr: any reason, as long as there is one
-};
-
-const std::vector<DiskChange>& diskChanges() {
-  static const std::vector<DiskChange> changes{
-      {"deleted", [](const fs::path& p, const DatedPhoto&) { fs::remove(p); }, InPlaceWriter::kMissingReason},
-      {"replaced by other bytes of the same size",
-       [](const fs::path& p, const DatedPhoto& photo) {
-         std::vector<std::uint8_t> other = photo.bytes;
-         other.back() ^= 0xFF;
-         const fs::path tmp = p.string() + ".new";
-         reltest::writeAll(tmp, other);
-         setModifiedLater(tmp);
-         fs::rename(tmp, p);
-       },
-       InPlaceWriter::kChangedOnDiskReason},
-      {"touched (same bytes, newer time)", [](const fs::path& p, const DatedPhoto&) { setModifiedLater(p); },
-       InPlaceWriter::kChangedOnDiskReason},
-      {"truncated by one byte",
-       [](const fs::path& p, const DatedPhoto& photo) { fs::resize_file(p, photo.bytes.size() - 1); },
-       InPlaceWriter::kChangedOnDiskReason},
-      {"truncated to nothing", [](const fs::path& p, const DatedPhoto&) { fs::resize_file(p, 0); },
-       InPlaceWriter::kChangedOnDiskReason},
-      {"grown by one byte",
-       [](const fs::path& p, const DatedPhoto& photo) { fs::resize_file(p, photo.bytes.size() + 1); },
-       InPlaceWriter::kChangedOnDiskReason},
-      {"replaced by a folder",
-       [](const fs::path& p, const DatedPhoto&) {
-         fs::remove(p);
-         fs::create_directory(p);
-       },
-       nullptr},
-      {"replaced by a link to another copy",
-       [](const fs::path& p, const DatedPhoto& photo) {
-         const fs::path other = p.string() + ".other";
-         reltest::writeAll(other, photo.bytes);
-         setModifiedLater(other);
-         fs::remove(p);
-         fs::create_symlink(other, p);
-       },
-       InPlaceWriter::kChangedOnDiskReason},
-  };
-  return changes;
-}
-
-// What the path holds now: file bytes, or a marker for anything else.
-std::vector<std::uint8_t> snapshot(const fs::path& path) {
-  std::error_code ec;
-  if (!fs::exists(path, ec)) return {'<', 'g', 'o', 'n', 'e', '>'};
-  if (fs::is_directory(path, ec)) return {'<', 'd', 'i', 'r', '>'};
-  return reltest::readAll(path);
-}
-
-TEST(SaveFaults, AFileChangedOnDiskSinceOpeningIsNeverWritten) {
-  LUMTEST_REQUIRE_REAL_DATA();
-  int faults = 0;
-  for (const DatedPhoto* each : reltest::photosForFaults()) {
-    const DatedPhoto& photo = *each;
-    for (const DiskChange& change : diskChanges()) {
-      SCOPED_TRACE(photo.name + ": " + change.name);
-      ScratchFolder folder;
-      const OpenedCopy copy = openCopy(folder, photo);
-      change.apply(copy.path, photo);
-      const std::vector<std::uint8_t> afterChange = snapshot(copy.path);
-
-      const auto result = InPlaceWriter::writePatches(copy.path, copy.opened, photo.patches);
-      ++faults;
-      EXPECT_FALSE(result.ok);
-      if (change.reason) {
-        EXPECT_EQ(result.reason, change.reason);
-      }
-      EXPECT_FALSE(result.reason.empty());
-      EXPECT_EQ(snapshot(copy.path), afterChange) << "the save wrote into a file that is not the one opened";
-    }
-  }
-  reportFaults(faults);
-}
-
-// ---- permissions --------------------------------------------------------------
-
-TEST(SaveFaults, AReadOnlyFileIsRefusedAndLeftAlone) {
-  LUMTEST_REQUIRE_REAL_DATA();
-  for (const DatedPhoto* each : reltest::photosForFaults()) {
-    const DatedPhoto& photo = *each;
-    SCOPED_TRACE(photo.name);
-    ScratchFolder folder;
-    const OpenedCopy copy = openCopy(folder, photo);
-    ASSERT_EQ(::chmod(copy.path.c_str(), 0444), 0);
-    // Even root, whom the system lets write anyway, must be refused.
-    const auto result = InPlaceWriter::writePatches(copy.path, copy.opened, photo.patches);
-    EXPECT_FALSE(result.ok);
-    EXPECT_EQ(result.reason, InPlaceWriter::kReadOnlyReason);
-    EXPECT_EQ(reltest::readAll(copy.path), photo.bytes);
-  }
-}
-
-TEST(SaveFaults, AReadOnlyFolderDoesNotStopAnInPlaceSave) {
-  LUMTEST_REQUIRE_REAL_DATA();
-  // Saving writes into the existing file; it needs no new entry in the folder.
-  for (const DatedPhoto* each : reltest::photosForFaults()) {
-    const DatedPhoto& photo = *each;
-    SCOPED_TRACE(photo.name);
-    ScratchFolder folder;
-    const OpenedCopy copy = openCopy(folder, photo);
-    ASSERT_EQ(::chmod(folder.path().c_str(), 0555), 0);
-    const auto result = InPlaceWriter::writePatches(copy.path, copy.opened, photo.patches);
-    EXPECT_TRUE(result.ok) << result.reason;
-    EXPECT_EQ(reltest::readAll(copy.path), photo.intended);
-    std::size_t entries = 0;
-    for ([[maybe_unused]] const auto& e : fs::directory_iterator(folder.path())) ++entries;
-    EXPECT_EQ(entries, 1u) << "the save left another file in the folder";
-  }
-}
-
 // ---- a write that fails part way ------------------------------------------------
 
 // Points in the run where the disk gives out: nothing written, one byte, just
@@ -206,83 +83,123 @@ InPlaceWriter::WriteFunction failingWriter(std::size_t budget, int error, int fa
   };
 }
 
-TEST(SaveFaults, AWriteThatFailsOncePartWayLeavesTheFileAsOpened) {
+// A disk that fails once leaves the file exactly as opened (the partial
+// write is put back). One that stays broken fails the restore too, so the run
+// may hold part of the new dates: no program can undo a write the disk will
+// not take. What must still hold then: the failure is reported, the size is
+// kept, and nothing outside the run moves.
+TEST(SaveFaults, AWriteThatFailsPartWayIsReportedAndNeverMovesBytesOutsideTheDates) {
   LUMTEST_REQUIRE_REAL_DATA();
-  int faults = 0;
-  for (const DatedPhoto* each : reltest::photosForFaults()) {
-    const DatedPhoto& photo = *each;
-    const auto [first, end] = runOf(photo);
-    for (const std::size_t n : failurePoints(end - first)) {
-      SCOPED_TRACE(photo.name + " fails after " + std::to_string(n) + " bytes");
-      ScratchFolder folder;
-      const OpenedCopy copy = openCopy(folder, photo);
-      const auto result =
-          InPlaceWriter::writePatches(copy.path, copy.opened, photo.patches, failingWriter(n, ENOSPC, 1));
-      ++faults;
-      EXPECT_FALSE(result.ok);
-      EXPECT_EQ(result.reason, errnoText(ENOSPC));
-      EXPECT_EQ(reltest::stateOf(reltest::readAll(copy.path), photo), "as opened");
+  const struct {
+    const char* name;
+    int error, failures;
+    bool restored;
+  } disks[] = {{"fails once", ENOSPC, 1, true}, {"stays broken", EIO, 1000, false}};
+  for (const auto& disk : disks) {
+    int faults = 0;
+    for (const DatedPhoto* each : reltest::photosForFaults()) {
+      const DatedPhoto& photo = *each;
+      const auto [first, end] = runOf(photo);
+      for (const std::size_t n : failurePoints(end - first)) {
+        SCOPED_TRACE(photo.name + ": " + disk.name + " after " + std::to_string(n) + " bytes");
+        ScratchFolder folder;
+        const OpenedCopy copy = openCopy(folder, photo);
+        const auto result = InPlaceWriter::writePatches(copy.path, copy.opened, photo.patches,
+                                                        failingWriter(n, disk.error, disk.failures));
+        ++faults;
+        EXPECT_FALSE(result.ok);
+        EXPECT_EQ(result.reason, errnoText(disk.error));
+        const std::vector<std::uint8_t> now = reltest::readAll(copy.path);
+        if (disk.restored) {
+          EXPECT_EQ(reltest::stateOf(now, photo), "as opened");
+        }
+        ASSERT_EQ(now.size(), photo.bytes.size());
+        const auto outside = [&](const std::vector<std::uint8_t>& bytes) {
+          std::vector<std::uint8_t> kept(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(first));
+          kept.insert(kept.end(), bytes.begin() + static_cast<std::ptrdiff_t>(end), bytes.end());
+          return kept;
+        };
+        EXPECT_EQ(outside(now), outside(photo.bytes));
+      }
     }
+    reltest::reportFigure(std::string("write faults injected, disk that ") + disk.name, faults);
   }
-  reportFaults(faults);
 }
 
-TEST(SaveFaults, ADiskThatStaysBrokenNeverShortensTheFileNorTouchesBytesOutsideTheDates) {
+// ---- a flush that fails -----------------------------------------------------------
+
+TEST(SaveFaults, AFailedFlushFailsTheFilesItCoveredAndNoOther) {
   LUMTEST_REQUIRE_REAL_DATA();
-  // When the restore fails too, the run may hold part of the new dates: no
-  // program can undo a write the disk will not take. What must still hold:
-  // the failure is reported, the size is kept, nothing outside the run moves.
-  for (const DatedPhoto* each : reltest::photosForFaults()) {
-    const DatedPhoto& photo = *each;
-    const auto [first, end] = runOf(photo);
-    for (const std::size_t n : failurePoints(end - first)) {
-      SCOPED_TRACE(photo.name + " breaks after " + std::to_string(n) + " bytes");
-      ScratchFolder folder;
-      const OpenedCopy copy = openCopy(folder, photo);
-      const auto result =
-          InPlaceWriter::writePatches(copy.path, copy.opened, photo.patches, failingWriter(n, EIO, 1000));
-      EXPECT_FALSE(result.ok);
-      EXPECT_EQ(result.reason, errnoText(EIO));
-      const std::vector<std::uint8_t> now = reltest::readAll(copy.path);
-      ASSERT_EQ(now.size(), photo.bytes.size());
-      EXPECT_TRUE(std::equal(now.begin(), now.begin() + static_cast<std::ptrdiff_t>(first), photo.bytes.begin()));
-      EXPECT_TRUE(std::equal(now.begin() + static_cast<std::ptrdiff_t>(end), now.end(),
-                             photo.bytes.begin() + static_cast<std::ptrdiff_t>(end)));
-    }
+  ScratchFolder folder;
+  std::map<fs::path, const DatedPhoto*> photos;
+  for (const DatedPhoto* photo : reltest::photosForFaults()) {
+    photos[folder.path() / photo->name] = photo;
+    reltest::writeAll(folder.path() / photo->name, photo->bytes);
   }
+  std::vector<fs::path> paths;
+  for (const auto& entry : photos) paths.push_back(entry.first);
+  auto doc = reltest::openDocument(paths);
+  // Every date a photo shows is typed anew, so each file must end as intended;
+  // a file the document does not open, or whose dates it does not show, plays no part.
+  constexpr const char* kColumns[] = {"DateTimeOriginal", "DateTimeDigitized", "DateTime"};
+  std::erase_if(photos, [&](const auto& entry) {
+    LumFileItemDoc* item = doc->itemForURL(entry.first);
+    for (const DateTargets::Target& t : DateTargets::kTargets)
+      if (item && item->dateText(t.index))
+        doc->controlTextDidEndEditing(*doc->rowOf(item), kColumns[t.index], reltest::kNewDate, false);
+    return !item || !item->isEdited();
+  });
+
+  // Two files a flush; every second flush fails, and the file it went through
+  // must be among the failures.
+  int flushes = 0;
+  std::set<fs::path> failedFlushes;
+  doc->setFlushFunction(
+      [&](int fd) {
+        if (++flushes % 2) return ::syncfs(fd);
+        std::error_code ec;
+        failedFlushes.insert(fs::read_symlink("/proc/self/fd/" + std::to_string(fd), ec));
+        return errno = EIO, -1;
+      },
+      2);
+  const auto outcome = reltest::saveAndWait(*doc);
+  ASSERT_TRUE(outcome.has_value()) << "the save never finished";
+  EXPECT_EQ(flushes, static_cast<int>((photos.size() + 1) / 2));
+  EXPECT_EQ(outcome->failures.size(), photos.size() / 4 * 2 + (photos.size() % 4 == 3 ? 1 : 0));
+  std::set<fs::path> failed;
+  for (const SaveReport::Failure& f : outcome->failures) {
+    failed.insert(f.path);
+    EXPECT_EQ(f.reason, errnoText(EIO)) << f.path;
+  }
+  EXPECT_TRUE(std::includes(failed.begin(), failed.end(), failedFlushes.begin(), failedFlushes.end()));
+  for (const auto& [path, photo] : photos) {
+    SCOPED_TRACE(path.filename().string());
+    // A failed file keeps its edit to be saved again; its bytes were written,
+    // only their way to the disk is in doubt.
+    EXPECT_EQ(doc->itemForURL(path)->isEdited(), failed.count(path) == 1);
+    EXPECT_EQ(reltest::stateOf(reltest::readAll(path), *photo), "as intended");
+  }
+  reportFaults(static_cast<int>(failedFlushes.size()));
 }
 
 // ---- the file size limit of the process (RLIMIT_FSIZE) ---------------------------
 
-struct ChildResult {
-  bool ok = false;
-  std::string reason;
-};
-
-// Saves in a child process whose file size limit is `limit` bytes.
-ChildResult saveUnderSizeLimit(const OpenedCopy& copy, const DatedPhoto& photo, rlim_t limit) {
-  int fds[2];
-  if (::pipe(fds) != 0) return {false, "pipe failed"};
+// Saves in a child process whose file size limit is `limit` bytes. Answers
+// "saved", the reason the save failed for, or how the child ended otherwise.
+std::string saveUnderSizeLimit(const OpenedCopy& copy, const DatedPhoto& photo, rlim_t limit) {
+  const std::string tooLarge = errnoText(EFBIG);
   const pid_t pid = ::fork();
   if (pid == 0) {
-    ::close(fds[0]);
     std::signal(SIGXFSZ, SIG_IGN);  // EFBIG instead of a killed process
     const rlimit rl{limit, limit};
     ::setrlimit(RLIMIT_FSIZE, &rl);
     const auto result = InPlaceWriter::writePatches(copy.path, copy.opened, photo.patches);
-    const std::string message = (result.ok ? "1" : "0") + result.reason;
-    [[maybe_unused]] const ssize_t n = ::write(fds[1], message.data(), message.size());
-    ::_exit(0);
+    ::_exit(result.ok ? 0 : result.reason == tooLarge ? 1 : 2);
   }
-  ::close(fds[1]);
-  std::string message;
-  char buffer[256];
-  for (ssize_t n; (n = ::read(fds[0], buffer, sizeof buffer)) > 0;) message.append(buffer, static_cast<std::size_t>(n));
-  ::close(fds[0]);
-  int status = 0;
+  int status = -1;
   ::waitpid(pid, &status, 0);
-  if (message.empty()) return {false, "child gave no answer"};
-  return {message[0] == '1', message.substr(1)};
+  const int code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  return code == 0 ? "saved" : code == 1 ? tooLarge : "another failure (" + std::to_string(status) + ")";
 }
 
 TEST(SaveFaults, AFileSizeLimitBelowTheDatesFailsTheSaveAndKeepsTheFile) {
@@ -291,22 +208,14 @@ TEST(SaveFaults, AFileSizeLimitBelowTheDatesFailsTheSaveAndKeepsTheFile) {
   for (const DatedPhoto* each : reltest::photosForFaults()) {
     const DatedPhoto& photo = *each;
     const auto [first, end] = runOf(photo);
-    const std::vector<rlim_t> limits{0, first, first + 10, end - 1, end, photo.bytes.size()};
-    for (const rlim_t limit : limits) {
+    for (const rlim_t limit : std::vector<rlim_t>{0, first, first + 10, end - 1, end, photo.bytes.size()}) {
       SCOPED_TRACE(photo.name + " limit " + std::to_string(limit));
       ScratchFolder folder;
       const OpenedCopy copy = openCopy(folder, photo);
-      const ChildResult result = saveUnderSizeLimit(copy, photo, limit);
-      const std::vector<std::uint8_t> now = reltest::readAll(copy.path);
-      if (limit >= end) {
-        EXPECT_TRUE(result.ok) << result.reason;
-        EXPECT_EQ(reltest::stateOf(now, photo), "as intended");
-      } else {
-        ++faults;
-        EXPECT_FALSE(result.ok);
-        EXPECT_EQ(result.reason, errnoText(EFBIG));
-        EXPECT_EQ(reltest::stateOf(now, photo), "as opened");
-      }
+      const bool below = limit < end;
+      faults += below;
+      EXPECT_EQ(saveUnderSizeLimit(copy, photo, limit), below ? errnoText(EFBIG) : "saved");
+      EXPECT_EQ(reltest::stateOf(reltest::readAll(copy.path), photo), below ? "as opened" : "as intended");
     }
   }
   reportFaults(faults);

@@ -1,12 +1,13 @@
 #include "SmallPhotos.h"
 
+#include <cctype>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <stdexcept>
 #include <string>
 
 #include "DatedPhotos.h"
-#include "documents/DateRewrite.h"
-#include "formats/LumImageFile.h"
 #include "support/JpegBuilder.h"
 
 namespace reltest {
@@ -37,18 +38,41 @@ std::vector<std::filesystem::path> writeSmallPhotos(const std::filesystem::path&
   return paths;
 }
 
+namespace {
+
+// "yyyy:MM:dd HH:mm:ss" followed by its zero byte, as a writer stores a date.
+bool isDateTextAt(const std::vector<std::uint8_t>& bytes, std::size_t at) {
+  static constexpr char kShape[] = "dddd:dd:dd dd:dd:dd";
+  if (at + 20 > bytes.size() || bytes[at + 19] != 0) return false;
+  for (std::size_t i = 0; i < 19; ++i)
+    if (kShape[i] == 'd' ? !std::isdigit(bytes[at + i]) : bytes[at + i] != kShape[i]) return false;
+  return true;
+}
+
+}  // namespace
+
+// Worked out with the standard civil calendar, not with the program's own
+// date code: the expectation must not share the code it checks.
 std::vector<std::uint8_t> shiftedBytes(const std::vector<std::uint8_t>& bytes, const DateTextRules::Offsets& offsets) {
-  const orb::ByteView view(bytes.data(), bytes.size());
-  LumImageFile image;
-  if (!image.searchImageDataAndMakeExifObject(view, nullptr)) return bytes;
-  image.setImageData(lum::FileData::fromBytes(bytes));
-  std::vector<InPlaceWriter::BytePatch> patches;
-  for (const LumDateField field : {LumDateField::DateTimeOriginal, LumDateField::DateTimeDigitized, LumDateField::DateTime}) {
-    const auto offset = image.dateValueOffset(field);
-    const auto shifted = DateTextRules::shiftedDateTimeString(image.originalString(field), offsets);
-    if (offset && shifted) patches.push_back({*offset, *shifted});
+  using namespace std::chrono;
+  if (offsets[0] != 0 || offsets[1] != 0) throw std::invalid_argument("shiftedBytes: only days and times");
+  const seconds by = days(offsets[2]) + hours(offsets[3]) + minutes(offsets[4]) + seconds(offsets[5]);
+  std::vector<std::uint8_t> out = bytes;
+  for (std::size_t at = 0; at < out.size(); ++at) {
+    if (!isDateTextAt(out, at)) continue;
+    int y = 0, mo = 0, d = 0, h = 0, mi = 0, sec = 0;
+    std::sscanf(reinterpret_cast<const char*>(&out[at]), "%d:%d:%d %d:%d:%d", &y, &mo, &d, &h, &mi, &sec);
+    const sys_seconds t = sys_days(year(y) / mo / d) + hours(h) + minutes(mi) + seconds(sec) + by;
+    const year_month_day ymd(floor<days>(t));
+    const hh_mm_ss<seconds> time(t - floor<days>(t));
+    char text[24];
+    std::snprintf(text, sizeof text, "%04d:%02u:%02u %02d:%02d:%02d", int(ymd.year()), unsigned(ymd.month()),
+                  unsigned(ymd.day()), int(time.hours().count()), int(time.minutes().count()),
+                  int(time.seconds().count()));
+    std::copy(text, text + 19, out.begin() + static_cast<std::ptrdiff_t>(at));
+    at += 19;
   }
-  return DateRewrite::applied(view, patches);
+  return out;
 }
 
 int countFromEnvironment(const char* name, int fallback) {

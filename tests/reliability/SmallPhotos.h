@@ -20,8 +20,8 @@ std::vector<std::uint8_t> smallDatedJpeg(int index);
 // Writes `count` such photos into folder as img-00000.jpg ...; answers their paths.
 std::vector<std::filesystem::path> writeSmallPhotos(const std::filesystem::path& folder, int count);
 
-// The bytes with every date the scan finds shifted by the offsets (what a
-// shift must leave in the file); the bytes unchanged when they hold none.
+// The bytes with every date text in them shifted by the offsets (what a shift
+// must leave in the file); only days, hours, minutes and seconds.
 std::vector<std::uint8_t> shiftedBytes(const std::vector<std::uint8_t>& bytes, const DateTextRules::Offsets& offsets);
 
 // Count from an environment variable, or fallback when unset or not a number.

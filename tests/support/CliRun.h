@@ -11,10 +11,7 @@
 
 namespace lumtest {
 
-struct CliRun {
-  int status = -1;
-  std::string out;
-};
+struct CliRun { int status = -1; std::string out; };
 
 inline std::string shellQuoted(const std::string& text) {
   std::string quoted = "'";

@@ -18,15 +18,11 @@ std::uint32_t typeSize(std::uint16_t type) {
 }  // namespace
 
 void TiffBuilder::IFD::put16(std::vector<std::uint8_t>& out, std::uint16_t v) const {
-  if (little_) { out.push_back(v & 0xFF); out.push_back(v >> 8); }
-  else { out.push_back(v >> 8); out.push_back(v & 0xFF); }
+  for (int i = 0; i < 2; ++i) out.push_back(static_cast<std::uint8_t>(v >> (little_ ? 8 * i : 8 * (1 - i))));
 }
 
 void TiffBuilder::IFD::put32(std::vector<std::uint8_t>& out, std::uint32_t v) const {
-  for (int i = 0; i < 4; ++i) {
-    const int shift = little_ ? 8 * i : 8 * (3 - i);
-    out.push_back(static_cast<std::uint8_t>(v >> shift));
-  }
+  for (int i = 0; i < 4; ++i) out.push_back(static_cast<std::uint8_t>(v >> (little_ ? 8 * i : 8 * (3 - i))));
 }
 
 TiffBuilder::IFD& TiffBuilder::IFD::add(Entry entry) {
@@ -38,12 +34,6 @@ TiffBuilder::IFD& TiffBuilder::IFD::ascii(std::uint16_t tag, std::string_view te
   std::vector<std::uint8_t> value(text.begin(), text.end());
   value.push_back(0);
   return bytes(tag, 2, std::move(value));
-}
-
-TiffBuilder::IFD& TiffBuilder::IFD::utf8(std::uint16_t tag, std::string_view text) {
-  std::vector<std::uint8_t> value(text.begin(), text.end());
-  value.push_back(0);
-  return bytes(tag, 129, std::move(value));
 }
 
 TiffBuilder::IFD& TiffBuilder::IFD::shorts(std::uint16_t tag, std::vector<std::uint16_t> values) {
@@ -58,53 +48,25 @@ TiffBuilder::IFD& TiffBuilder::IFD::longs(std::uint16_t tag, std::vector<std::ui
   return bytes(tag, 4, std::move(value), static_cast<std::uint32_t>(values.size()));
 }
 
-TiffBuilder::IFD& TiffBuilder::IFD::rationals(std::uint16_t tag,
-                                              std::vector<std::pair<std::uint32_t, std::uint32_t>> values) {
-  std::vector<std::uint8_t> value;
-  for (auto [n, d] : values) { put32(value, n); put32(value, d); }
-  return bytes(tag, 5, std::move(value), static_cast<std::uint32_t>(values.size()));
-}
-
-TiffBuilder::IFD& TiffBuilder::IFD::srationals(std::uint16_t tag,
-                                               std::vector<std::pair<std::int32_t, std::int32_t>> values) {
-  std::vector<std::uint8_t> value;
-  for (auto [n, d] : values) { put32(value, static_cast<std::uint32_t>(n)); put32(value, static_cast<std::uint32_t>(d)); }
-  return bytes(tag, 10, std::move(value), static_cast<std::uint32_t>(values.size()));
-}
-
 TiffBuilder::IFD& TiffBuilder::IFD::undefined(std::uint16_t tag, std::vector<std::uint8_t> value) {
   return bytes(tag, 7, std::move(value));
 }
 
 TiffBuilder::IFD& TiffBuilder::IFD::bytes(std::uint16_t tag, std::uint16_t type, std::vector<std::uint8_t> value,
                                           std::optional<std::uint32_t> count) {
-  Entry e;
-  e.tag = tag;
-  e.type = type;
-  e.count = count.value_or(static_cast<std::uint32_t>(value.size() / typeSize(type)));
-  e.value = std::move(value);
-  return add(std::move(e));
+  const std::uint32_t n = count.value_or(static_cast<std::uint32_t>(value.size() / typeSize(type)));
+  return add({tag, type, n, std::move(value), std::nullopt, nullptr, 0});
 }
 
 TiffBuilder::IFD& TiffBuilder::IFD::raw(std::uint16_t tag, std::uint16_t type, std::uint32_t count,
                                         std::uint32_t field) {
-  Entry e;
-  e.tag = tag;
-  e.type = type;
-  e.count = count;
-  e.field = field;
-  return add(std::move(e));
+  return add({tag, type, count, {}, field, nullptr, 0});
 }
 
 TiffBuilder::IFD& TiffBuilder::IFD::subIFD(std::unique_ptr<IFD>& slot, std::uint16_t pointerTag) {
   if (!slot) {
     slot.reset(new IFD(little_));
-    Entry e;
-    e.tag = pointerTag;
-    e.type = 4;
-    e.count = 1;
-    e.pointee = slot.get();
-    add(std::move(e));
+    add({pointerTag, 4, 1, {}, std::nullopt, slot.get(), 0});
   }
   return *slot;
 }
@@ -144,14 +106,10 @@ void TiffBuilder::write(const IFD& ifd, std::vector<std::uint8_t>& out) const {
     ifd.put16(table, e.tag);
     ifd.put16(table, e.type);
     ifd.put32(table, e.count);
-    if (e.field) {
-      ifd.put32(table, *e.field);
-    } else if (e.pointee) {
-      ifd.put32(table, e.pointee->offset_);
-    } else if (e.value.size() <= 4) {
-      for (std::size_t i = 0; i < 4; ++i) table.push_back(i < e.value.size() ? e.value[i] : 0);
+    if (e.field || e.pointee || e.value.size() > 4) {
+      ifd.put32(table, e.field ? *e.field : e.pointee ? e.pointee->offset_ : e.valueOffset);
     } else {
-      ifd.put32(table, e.valueOffset);
+      for (std::size_t i = 0; i < 4; ++i) table.push_back(i < e.value.size() ? e.value[i] : 0);
     }
   }
   const std::uint32_t next = ifd.nextOffsetOverride_.value_or(ifd.next_ ? ifd.next_->offset_ : 0);
@@ -173,7 +131,7 @@ std::vector<std::uint8_t> TiffBuilder::build(std::uint64_t headerLocation) {
   out.resize(headerLocation + end, 0);
   std::vector<std::uint8_t> header = little_ ? std::vector<std::uint8_t>{'I', 'I'} : std::vector<std::uint8_t>{'M', 'M'};
   ifd0_->put16(header, 42);
-  ifd0_->put32(header, noIFD_ ? 0 : firstIFDOffset_.value_or(ifd0_->offset_));
+  ifd0_->put32(header, noIFD_ ? 0 : ifd0_->offset_);
   std::copy(header.begin(), header.end(), out.begin() + static_cast<std::ptrdiff_t>(headerLocation));
   if (!noIFD_) write(*ifd0_, out);
   return out;

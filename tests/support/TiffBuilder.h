@@ -26,7 +26,6 @@
 //                                  written: wrong offsets, huge counts
 //   IFD::nextOffset(n)             the next-IFD offset written (loops)
 //   IFD::claimEntryCount(n)        the entry count written in the table
-//   TiffBuilder::firstIFDOffset(n) the IFD0 offset in the header
 //   the returned vector            cut it (resize) to truncate
 // A pointer to a sub-IFD is an ordinary entry; to point it elsewhere, use
 // raw() with the pointer tag instead of exif() / gps() / interop().
@@ -50,11 +49,8 @@ class TiffBuilder {
    public:
     // Entries by type; count is the number of values (ASCII: characters + 1).
     IFD& ascii(std::uint16_t tag, std::string_view text);  // adds the zero byte
-    IFD& utf8(std::uint16_t tag, std::string_view text);   // type 129, adds the zero byte
     IFD& shorts(std::uint16_t tag, std::vector<std::uint16_t> values);
     IFD& longs(std::uint16_t tag, std::vector<std::uint32_t> values);
-    IFD& rationals(std::uint16_t tag, std::vector<std::pair<std::uint32_t, std::uint32_t>> values);
-    IFD& srationals(std::uint16_t tag, std::vector<std::pair<std::int32_t, std::int32_t>> values);
     IFD& undefined(std::uint16_t tag, std::vector<std::uint8_t> bytes);
     // Any type, value bytes given as they are to be written.
     IFD& bytes(std::uint16_t tag, std::uint16_t type, std::vector<std::uint8_t> value,
@@ -71,9 +67,6 @@ class TiffBuilder {
 
     IFD& nextOffset(std::uint32_t offset) { nextOffsetOverride_ = offset; return *this; }
     IFD& claimEntryCount(std::uint16_t count) { countOverride_ = count; return *this; }
-
-    // Offset of this IFD from the header (after build()).
-    std::uint32_t offset() const { return offset_; }
 
    private:
     friend class TiffBuilder;
@@ -103,7 +96,6 @@ class TiffBuilder {
   explicit TiffBuilder(bool littleEndian = kBig) : little_(littleEndian), ifd0_(new IFD(littleEndian)) {}
 
   IFD& ifd0() { return *ifd0_; }
-  TiffBuilder& firstIFDOffset(std::uint32_t offset) { firstIFDOffset_ = offset; return *this; }
   // A header whose IFD0 offset is 0 and no IFD at all.
   TiffBuilder& noIFD() { noIFD_ = true; return *this; }
 
@@ -120,7 +112,6 @@ class TiffBuilder {
 
   bool little_;
   std::unique_ptr<IFD> ifd0_;
-  std::optional<std::uint32_t> firstIFDOffset_;
   bool noIFD_ = false;
   std::uint64_t headerLocation_ = 0;
 };

@@ -25,23 +25,15 @@ std::shared_ptr<Bitmap> solid(int w, int h, int comps, AlphaInfo info, std::vect
   return b;
 }
 
-struct SizeCase {
-  int w, h;
-  bool up;
-  std::optional<Resizing::PixelSize> expected;
-};
+struct SizeCase { int w, h; bool up; std::optional<Resizing::PixelSize> expected; };
 
 TEST(ResizingSize, FitsTheBoxKeepingAspect) {
   const SizeCase cases[] = {
-      {4000, 3000, false, Resizing::PixelSize{150, 113}},  // 112.5 rounds up
-      {3000, 4000, false, Resizing::PixelSize{113, 150}},
-      {100, 80, false, std::nullopt},                      // already fits
-      {100, 80, true, Resizing::PixelSize{150, 120}},
-      {200, 100, false, Resizing::PixelSize{150, 75}},
-      {300, 300, false, Resizing::PixelSize{150, 150}},    // equal factors
-      {150, 150, true, std::nullopt},                      // box not larger in both directions
-      {150, 100, true, std::nullopt},
-      {151, 10, false, Resizing::PixelSize{150, 10}},      // 9.93 rounds to 10
+      {4000, 3000, false, Resizing::PixelSize{150, 113}}, {3000, 4000, false, Resizing::PixelSize{113, 150}},
+      {100, 80, false, std::nullopt}, {100, 80, true, Resizing::PixelSize{150, 120}},  // already fits; grown
+      {200, 100, false, Resizing::PixelSize{150, 75}},    {300, 300, false, Resizing::PixelSize{150, 150}},
+      {150, 150, true, std::nullopt},  {150, 100, true, std::nullopt},  // box not larger in both directions
+      {151, 10, false, Resizing::PixelSize{150, 10}},     // 9.93 rounds to 10
   };
   for (const auto& c : cases)
     EXPECT_EQ(Resizing::newSize(c.w, c.h, 150, 150, c.up), c.expected) << c.w << "x" << c.h << " up=" << c.up;
@@ -55,17 +47,14 @@ TEST(ResizingFormat, ComponentCountAndAlphaAreNormalised) {
     std::uint32_t bitmapInfo;
     int bpc = 8, rowBytes = 0;  // 0: rows exactly as long as the pixels
   };
+  // Grey and RGB gain a padding alpha, premultiplied last; NoneSkipFirst has
+  // bit 2 of 6 set, so "last" wins; PremultipliedFirst (2) has a low bit set:
+  // last; CMYK stays without alpha; padded rows: 64 / 2 / 10 truncates to 3.
   const Case cases[] = {
-      {1, AlphaInfo::None, 2, 1},             // grey gains a padding alpha, premultiplied last
-      {3, AlphaInfo::None, 4, 1},             // RGB likewise
-      {4, AlphaInfo::Last, 4, 1},
-      {4, AlphaInfo::PremultipliedLast, 4, 1},
-      {4, AlphaInfo::NoneSkipLast, 4, 1},
-      {4, AlphaInfo::NoneSkipFirst, 4, 1},    // bit 2 of 6 is set, so "last" wins
-      {4, AlphaInfo::First, 4, 2},
-      {4, AlphaInfo::PremultipliedFirst, 4, 1},  // value 2 has a low bit set: last
-      {4, AlphaInfo::None, 4, 0},             // CMYK stays without alpha
-      {3, AlphaInfo::None, 4, 1, 16, 64},     // padded rows: 64 / 2 / 10 truncates to 3 components
+      {1, AlphaInfo::None, 2, 1},          {3, AlphaInfo::None, 4, 1},          {4, AlphaInfo::Last, 4, 1},
+      {4, AlphaInfo::PremultipliedLast, 4, 1}, {4, AlphaInfo::NoneSkipLast, 4, 1}, {4, AlphaInfo::NoneSkipFirst, 4, 1},
+      {4, AlphaInfo::First, 4, 2},         {4, AlphaInfo::PremultipliedFirst, 4, 1}, {4, AlphaInfo::None, 4, 0},
+      {3, AlphaInfo::None, 4, 1, 16, 64},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(std::to_string(c.comps) + "/" + std::to_string(static_cast<int>(c.info)) + "/" + std::to_string(c.bpc));
@@ -78,12 +67,6 @@ TEST(ResizingFormat, ComponentCountAndAlphaAreNormalised) {
     EXPECT_EQ(f->bitmapInfo, c.bitmapInfo);
     EXPECT_EQ(f->bytesPerRow, c.components * c.bpc / 8 * 7);
   }
-}
-
-TEST(ResizingPixels, SameBitmapWhenItFits) {
-  const std::shared_ptr<const Bitmap> b = solid(100, 80, 3, AlphaInfo::None, {1, 2, 3});
-  EXPECT_EQ(Resizing::resizedBitmap(b, 150, 150, false), b);
-  EXPECT_EQ(Resizing::resizedBitmapFromBitmap(nullptr, false, 150, 150), nullptr);
 }
 
 TEST(ResizingPixels, FirstPixelAfterShrinking) {
@@ -126,7 +109,10 @@ TEST(ResizingPixels, FirstPixelAfterShrinking) {
   }
 }
 
-TEST(ResizingPixels, UnsupportedFormatsGiveNone) {
+TEST(ResizingPixels, UnsupportedFormatsGiveNoneAndAFittingBitmapItself) {
+  const std::shared_ptr<const Bitmap> fits = solid(100, 80, 3, AlphaInfo::None, {1, 2, 3});
+  EXPECT_EQ(Resizing::resizedBitmap(fits, 150, 150, false), fits);
+  EXPECT_EQ(Resizing::resizedBitmapFromBitmap(nullptr, false, 150, 150), nullptr);
   // A colour space that disagrees with the component count.
   EXPECT_EQ(Resizing::resizedBitmap(solid(8, 8, 3, AlphaInfo::None, {0, 0, 0}, ColorSpace::Gray), 4, 4, false), nullptr);
   // Fewer than 8 bits per component.
