@@ -124,17 +124,6 @@ TEST(ExifDateScan, AgreesWithTheFullParseWholeAndCut) {
       }
 }
 
-TEST(ExifDateScan, OffsetsAndHeaderAsWritten) {
-  TiffBuilder builder;
-  dated(builder.ifd0());
-  auto block = builder.build();
-  const auto dates = ExifDateScan::scan(orb::ByteView(block), 0, block.size());
-  EXPECT_EQ(dates[ExifDateScan::kDateTimeOriginal].valueOffset, builder.valueOffset(builder.ifd0().exif(), 0x9003));
-  EXPECT_EQ(dates[ExifDateScan::kSubSecTimeOriginal].valueOffset, std::nullopt);  // "12" lies inline
-  block[3] = 43;  // not the TIFF magic number
-  EXPECT_FALSE(ExifDateScan::scan(orb::ByteView(block), 0, block.size()).isTiff);
-}
-
 // Every real file with a TIFF structure (where its record puts the header),
 // whole and from the head a listing reads first.
 TEST(ExifDateScan, AgreesWithTheFullParseOnTheRealFiles) {

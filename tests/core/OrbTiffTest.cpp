@@ -75,9 +75,8 @@ TEST(OrbTiffParse, ByteOrdersHeaderPositionsAndSubIFDs) {
       EXPECT_EQ(tiff->entryWithIFDTag(0x0100, kTIFFIFDID)->data(), 4000u);
       EXPECT_FALSE(tiff->entryWithIFDTag(0x0102, kTIFFIFDID)->hasValue());  // four bytes stay inline
       EXPECT_EQ(tiff->entryWithIFDTag(0x0103, kTIFFIFDID)->unsignedShortAtIndex(2), 3);
-      const OrbIFDEntry* date = tiff->entryWithIFDTag(kDateTimeOriginalTag, kExifIFDID);
-      const std::uint64_t absolute = date->data() + tiff->tiffHeaderLocation();
-      EXPECT_EQ(absolute, builder.valueOffset(ifd0.exif(), kDateTimeOriginalTag));
+      const std::uint64_t absolute =
+          tiff->entryWithIFDTag(kDateTimeOriginalTag, kExifIFDID)->data() + tiff->tiffHeaderLocation();
       EXPECT_EQ(std::string(block.begin() + long(absolute), block.begin() + long(absolute) + 19), "2024:01:02 03:04:05");
 
       ASSERT_EQ(tiff->IFDs()->size(), 2u);
@@ -140,7 +139,9 @@ TEST(OrbTiffMalformed, ValuesMustEndWithinTheLimit) {
   TiffBuilder builder;
   builder.ifd0().ascii(kMake, "Maker name").ascii(kModel, "Model name");
   const auto block = builder.build();
-  const std::uint64_t modelEnd = builder.valueOffset(builder.ifd0(), kModel) + 11;
+  // Header 8, table 2 + 2 * 12 + 4, Make 11 + 1 padding, Model 11 + 1 padding.
+  const std::uint64_t modelEnd = 8 + 30 + 12 + 11;
+  ASSERT_EQ(block.size(), modelEnd + 1);
   EXPECT_NE(parse(block, 0, modelEnd)->entryWithIFDTag(kModel, kTIFFIFDID), nullptr);  // ending at the limit
   auto short1 = parse(block, 0, modelEnd - 1);  // one byte short: dropped, the rest kept
   EXPECT_EQ(short1->entryWithIFDTag(kModel, kTIFFIFDID), nullptr);
@@ -161,18 +162,10 @@ TEST(OrbTiffMalformed, ValuesMustEndWithinTheLimit) {
   }
 }
 
-TEST(OrbTiffMalformed, TruncatedBlocksAndEntryTables) {
+TEST(OrbTiffMalformed, EntryTablesRunningPastTheLimit) {
   TiffBuilder builder(TiffBuilder::kLittle);
-  auto& ifd0 = builder.ifd0();
-  ifd0.ascii(kMake, "Maker name").shorts(0x0112, {1}).shorts(0x0128, {2});
-  ifd0.exif().ascii(kDateTimeOriginalTag, "2024:01:02 03:04:05").shorts(0xA001, {1});
-  ifd0.gps().bytes(0, 1, {2, 3, 0, 0});
-  ifd0.next().longs(0x0201, {1234});
+  builder.ifd0().ascii(kMake, "Maker name").shorts(0x0112, {1}).shorts(0x0128, {2});
   const auto full = builder.build();
-  for (std::size_t size = 0; size <= full.size(); ++size) {
-    auto tiff = parseExact(std::vector<std::uint8_t>(full.begin(), full.begin() + long(size)), size);
-    EXPECT_EQ(tiff != nullptr, size >= 8) << size;
-  }
   // The limit inside the second entry: it is still read (the last entry read
   // may run past the limit), the third is not.
   auto tiff = parseExact(full, 8 + 2 + 12 + 5);
