@@ -20,46 +20,28 @@ using orb::ByteView;
 constexpr std::array<std::uint8_t, 8> kBytes{0x12, 0x34, 0x56, 0x78, 0x9A, 0xBC, 0xDE, 0xF0};
 constexpr ByteView kView(kBytes.data(), kBytes.size());
 
-TEST(ByteView, ReadsBothByteOrders) {
-  EXPECT_EQ(kView.u16(0, ByteOrder::Big), 0x1234);
-  EXPECT_EQ(kView.u16(0, ByteOrder::Little), 0x3412);
-  EXPECT_EQ(kView.u32(4, ByteOrder::Big), 0x9ABCDEF0u);
-  EXPECT_EQ(kView.u32(4, ByteOrder::Little), 0xF0DEBC9Au);
+TEST(ByteView, ReadsBothByteOrdersAndRefusesEveryReadThatLeavesTheBlock) {
+  EXPECT_EQ(std::tuple(kView.u16(0, ByteOrder::Big), kView.u16(0, ByteOrder::Little)), std::tuple(0x1234, 0x3412));
+  EXPECT_EQ(std::tuple(kView.u32(4, ByteOrder::Big), kView.u32(4, ByteOrder::Little)),
+            std::tuple(0x9ABCDEF0u, 0xF0DEBC9Au));
   EXPECT_EQ(kView.u64(0), 0x123456789ABCDEF0ull);
-}
-
-TEST(ByteView, RefusesEveryReadThatLeavesTheBlock) {
-  struct Case { std::uint64_t offset, length; bool inside; };
+  EXPECT_FALSE(kView.u16(7) || kView.u32(5) || kView.u64(1) || kView.u8(8));
   constexpr std::uint64_t kMax = std::numeric_limits<std::uint64_t>::max();
-  const Case cases[] = {
-      {0, 8, true},  {8, 0, true},      {7, 1, true},    {7, 2, false},
-      {8, 1, false}, {9, 0, false},     {kMax, 1, false}, {1, kMax, false},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(testing::Message() << c.offset << "+" << c.length);
-    EXPECT_EQ(kView.contains(c.offset, c.length), c.inside);
-    EXPECT_EQ(kView.bytes(c.offset, c.length).has_value(), c.inside);
+  const std::tuple<std::uint64_t, std::uint64_t, bool> cases[] = {
+      {0, 8, true}, {8, 0, true}, {7, 1, true}, {7, 2, false}, {9, 0, false}, {kMax, 1, false}, {1, kMax, false}};
+  for (const auto& [offset, length, inside] : cases) {
+    SCOPED_TRACE(testing::Message() << offset << "+" << length);
+    EXPECT_EQ(kView.contains(offset, length), inside);
     // A noting view notes exactly the refusals, through its sub-views too.
     bool refused = false;
     const ByteView noting(kBytes.data(), kBytes.size(), &refused);
-    EXPECT_EQ(noting.sub(0, 8)->bytes(c.offset, c.length).has_value(), c.inside);
-    EXPECT_EQ(refused, !c.inside);
+    EXPECT_EQ(noting.sub(0, 8)->bytes(offset, length).has_value(), inside);
+    EXPECT_EQ(refused, !inside);
   }
-  EXPECT_FALSE(kView.u16(7));
-  EXPECT_FALSE(kView.u32(5));
-  EXPECT_FALSE(kView.u64(1));
-  EXPECT_FALSE(kView.u8(8));
-}
-
-TEST(ByteView, SubViewsStayInsideTheirParent) {
   const auto sub = kView.sub(2, 4);
-  ASSERT_TRUE(sub);
-  EXPECT_EQ(sub->size(), 4u);
-  EXPECT_EQ(sub->u8(0), 0x56);
+  EXPECT_EQ(std::tuple(sub->size(), *sub->u8(0)), std::tuple(4u, 0x56));
   EXPECT_FALSE(sub->u8(4)) << "a sub-view must not see its parent's later bytes";
-  EXPECT_TRUE(kView.tail(8).empty());
-  EXPECT_TRUE(kView.tail(100).empty());
-  EXPECT_TRUE(ByteView(nullptr, 10).empty());
+  EXPECT_TRUE(kView.tail(100).empty() && ByteView(nullptr, 10).empty());
   // Where a tail ends depends on the block's size, so a noting view counts
   // taking one as a refusal.
   bool refused = false;
@@ -72,15 +54,12 @@ TEST(ByteHelpers, ReadsAndWritesStopAtTheEndWithoutMoving) {
   std::uint64_t pos = 1;
   std::uint16_t v16 = 0;
   std::uint32_t v32 = 0;
-  ASSERT_TRUE(ByteHelpers::readUInt16BE(block, &pos, &v16));
-  ASSERT_TRUE(ByteHelpers::readUInt32BE(block, &pos, &v32));
-  EXPECT_EQ(v16, 0x0203);
-  EXPECT_EQ(v32, 0x04050607u);
+  ASSERT_TRUE(ByteHelpers::readUInt16BE(block, &pos, &v16) && ByteHelpers::readUInt32BE(block, &pos, &v32));
+  EXPECT_EQ(std::tuple(v16, v32), std::tuple(0x0203, 0x04050607u));
   EXPECT_FALSE(ByteHelpers::readUInt32BE(block, &pos, &v32));  // 2 bytes left
   EXPECT_EQ(pos, 7u);
   pos = ~std::uint64_t{0};
   EXPECT_FALSE(ByteHelpers::readUInt16BE(block, &pos, &v16));  // no wrap-around
-
   Bytes out(6, 0);
   pos = 0;
   ASSERT_TRUE(ByteHelpers::writeUInt32BE(out, &pos, 0x01020304));
@@ -90,32 +69,24 @@ TEST(ByteHelpers, ReadsAndWritesStopAtTheEndWithoutMoving) {
   EXPECT_EQ(NSDataOrbAdditions::uInt16ValueAtLocation(out, 5), 0);
 }
 
-TEST(NSDataOrbAdditions, RangeUntilNull) {
+TEST(NSDataOrbAdditions, RangesAndCRC32) {
   const Bytes data = {'a', 'b', 0, 'c', 'd'};
-  struct Case { std::uint64_t location, length; };
-  const Case cases[] = {{0, 3}, {2, 1}, {3, 2}, {5, 0}, {99, 0}};  // the zero counts; none: to the end
-  for (const auto& c : cases)
-    EXPECT_EQ(NSDataOrbAdditions::rengeUntilNullFromLocation(data, c.location).length, c.length) << c.location;
+  const std::pair<std::uint64_t, std::uint64_t> cases[] = {{0, 3}, {2, 1}, {3, 2}, {99, 0}};  // the zero counts
+  for (const auto& [location, length] : cases)
+    EXPECT_EQ(NSDataOrbAdditions::rengeUntilNullFromLocation(data, location).length, length) << location;
   EXPECT_EQ(NSDataOrbAdditions::readDataWithRange(data, {3, 3}), std::nullopt);
-}
-
-TEST(NSDataOrbAdditions, CRC32KnownValues) {
   const auto crc = [](std::string_view text) { return NSDataOrbAdditions::CRC_32(Bytes(text.begin(), text.end())); };
   EXPECT_EQ(crc("123456789"), 0xCBF43926u);
   EXPECT_EQ(crc("The quick brown fox jumps over the lazy dog"), 0x414FA339u);
   EXPECT_EQ(crc(""), 0u);
 }
 
-TEST(TextNumber, ReadsLikeAVersionText) {
+TEST(TextNumberAndLocalization, VersionTextsAndLookups) {
   const std::pair<const char*, std::int32_t> cases[] = {
       {"0230", 230}, {"  42x", 42}, {"-7", -7}, {"abc", 0}, {"4294967295", 2147483647}};
   for (const auto& [text, value] : cases) EXPECT_EQ(TextNumber::intValue(text), value) << text;
-}
-
-TEST(Localization, EnglishUnlessALookupAnswers) {
   Localization::setLookup([](std::string_view table, std::string_view key) -> std::optional<std::string> {
-    if (table == "IFD" && key == "Unknown") return std::string("Inconnu");
-    return std::nullopt;
+    return table == "IFD" && key == "Unknown" ? std::optional<std::string>("Inconnu") : std::nullopt;
   });
   EXPECT_EQ(Localization::localizedString("IFD", "Unknown"), "Inconnu");
   EXPECT_EQ(Localization::localizedString("", "Unknown"), "Unknown");

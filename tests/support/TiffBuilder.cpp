@@ -1,6 +1,6 @@
 #include "support/TiffBuilder.h"
 
-#include <stdexcept>
+#include <algorithm>
 
 namespace lumtest {
 
@@ -25,10 +25,7 @@ void TiffBuilder::IFD::put32(std::vector<std::uint8_t>& out, std::uint32_t v) co
   for (int i = 0; i < 4; ++i) out.push_back(static_cast<std::uint8_t>(v >> (little_ ? 8 * i : 8 * (3 - i))));
 }
 
-TiffBuilder::IFD& TiffBuilder::IFD::add(Entry entry) {
-  entries_.push_back(std::move(entry));
-  return *this;
-}
+TiffBuilder::IFD& TiffBuilder::IFD::add(Entry entry) { return entries_.push_back(std::move(entry)), *this; }
 
 TiffBuilder::IFD& TiffBuilder::IFD::ascii(std::uint16_t tag, std::string_view text) {
   std::vector<std::uint8_t> value(text.begin(), text.end());
@@ -39,18 +36,16 @@ TiffBuilder::IFD& TiffBuilder::IFD::ascii(std::uint16_t tag, std::string_view te
 TiffBuilder::IFD& TiffBuilder::IFD::shorts(std::uint16_t tag, std::vector<std::uint16_t> values) {
   std::vector<std::uint8_t> value;
   for (auto v : values) put16(value, v);
-  return bytes(tag, 3, std::move(value), static_cast<std::uint32_t>(values.size()));
+  return bytes(tag, 3, std::move(value));
 }
 
 TiffBuilder::IFD& TiffBuilder::IFD::longs(std::uint16_t tag, std::vector<std::uint32_t> values) {
   std::vector<std::uint8_t> value;
   for (auto v : values) put32(value, v);
-  return bytes(tag, 4, std::move(value), static_cast<std::uint32_t>(values.size()));
+  return bytes(tag, 4, std::move(value));
 }
 
-TiffBuilder::IFD& TiffBuilder::IFD::undefined(std::uint16_t tag, std::vector<std::uint8_t> value) {
-  return bytes(tag, 7, std::move(value));
-}
+TiffBuilder::IFD& TiffBuilder::IFD::undefined(std::uint16_t tag, std::vector<std::uint8_t> v) { return bytes(tag, 7, v); }
 
 TiffBuilder::IFD& TiffBuilder::IFD::bytes(std::uint16_t tag, std::uint16_t type, std::vector<std::uint8_t> value,
                                           std::optional<std::uint32_t> count) {
@@ -135,16 +130,6 @@ std::vector<std::uint8_t> TiffBuilder::build(std::uint64_t headerLocation) {
   std::copy(header.begin(), header.end(), out.begin() + static_cast<std::ptrdiff_t>(headerLocation));
   if (!noIFD_) write(*ifd0_, out);
   return out;
-}
-
-std::uint64_t TiffBuilder::valueOffset(const IFD& ifd, std::uint16_t tag) const {
-  for (std::size_t i = 0; i < ifd.entries_.size(); ++i) {
-    const auto& e = ifd.entries_[i];
-    if (e.tag != tag) continue;
-    if (e.field || e.pointee || e.value.size() <= 4) return headerLocation_ + ifd.offset_ + 2 + 12 * i + 8;
-    return headerLocation_ + e.valueOffset;
-  }
-  throw std::invalid_argument("TiffBuilder::valueOffset: no such tag in this IFD");
 }
 
 }  // namespace lumtest

@@ -11,7 +11,6 @@
 //   ifd0.gps().bytes(0x0000, 1, {2, 3, 0, 0}); // 0x8825 pointer entry
 //   ifd0.next().longs(0x0201, {0});            // IFD1
 //   std::vector<uint8_t> block = tiff.build(12);  // header at position 12
-//   uint64_t at = tiff.valueOffset(exif, 0x9003);   // absolute: 12 + offset
 //
 // Layout: the header (8 bytes), then each IFD's table followed by its
 // out-of-line values (each starting on an even offset), IFD0 first, then its
@@ -101,10 +100,6 @@ class TiffBuilder {
 
   // The block: headerLocation filler bytes, then the structure.
   std::vector<std::uint8_t> build(std::uint64_t headerLocation = 0);
-
-  // Absolute position (header location included) of an entry's value as
-  // laid out by the last build(): its out-of-line bytes, or its 4-byte field.
-  std::uint64_t valueOffset(const IFD& ifd, std::uint16_t tag) const;
 
  private:
   std::uint32_t layout(IFD& ifd, std::uint32_t cursor);
