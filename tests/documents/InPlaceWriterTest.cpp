@@ -28,6 +28,8 @@ fs::path writeBefore(const fs::path& file) {
   return file;
 }
 
+std::string errnoText(int error) { return std::system_category().message(error); }
+
 std::vector<std::uint8_t> patched(const std::vector<BytePatch>& patches) {
   std::vector<std::uint8_t> bytes = kBefore;
   for (const BytePatch& p : patches) std::copy(p.bytes.begin(), p.bytes.end(), bytes.begin() + p.position);
@@ -48,10 +50,11 @@ TEST(InPlaceWriter, ChangesExactlyThePatchedBytesWithOneWriteOverTheirSpan) {
   ::chmod(folder.path().c_str(), 0555);
   const std::vector<BytePatch> patches{{196, kDate}, {40, kDate}, {300, kDate}};
   std::vector<std::pair<off_t, std::size_t>> calls;
-  const WriteResult result = writePatches(file, *identityOfFile(file), patches, [&](int fd, const void* buf, std::size_t n, off_t off) {
-    calls.emplace_back(off, n);
-    return ::pwrite(fd, buf, n, off);
-  });
+  const WriteResult result =
+      writePatches(file, *identityOfFile(file), patches, [&](int fd, const void* buf, std::size_t n, off_t off) {
+        calls.emplace_back(off, n);
+        return ::pwrite(fd, buf, n, off);
+      });
   ASSERT_TRUE(result.ok) << result.reason;
   EXPECT_EQ(readBytes(file), patched(patches));
   EXPECT_EQ(calls, (std::vector<std::pair<off_t, std::size_t>>{{40, 300 + 19 - 40}}));
@@ -64,36 +67,36 @@ TEST(InPlaceWriter, ChangesExactlyThePatchedBytesWithOneWriteOverTheirSpan) {
 // be refused with the reason and whatever the path holds then left as it is.
 TEST(InPlaceWriter, RefusesAFileThatIsNotTheOneOpenedAndLeavesItAlone) {
   const auto resize = [](int size) { return [size](const fs::path& p) { fs::resize_file(p, size); }; };
-  const auto moveIn = [](const std::function<void(const fs::path&, const fs::path&)>& make) {
-    return [make](const fs::path& p) {
-      make(p, p.string() + ".new");
-      fs::rename(p.string() + ".new", p);
-    };
+  const auto copyKeepingTime = [](const fs::path& from, const fs::path& to) {
+    fs::copy_file(from, to);
+    fs::last_write_time(to, fs::last_write_time(from));
   };
-  const std::vector<BytePatch> one{{10, kDate}};
+  const auto none = [](const fs::path&) {};
   const struct {
     const char* name;
     std::function<void(const fs::path&)> change;
     std::string reason;
-    std::vector<BytePatch> patches;
+    std::vector<BytePatch> patches = {{10, kDate}};
   } cases[] = {
-      {"grown by one byte", resize(401), kChangedOnDiskReason, one},
-      {"truncated by one byte", resize(399), kChangedOnDiskReason, one},
-      {"truncated to nothing", resize(0), kChangedOnDiskReason, one},
-      {"same bytes, newer time", [](const fs::path& p) { fs::last_write_time(p, fs::last_write_time(p) - std::chrono::hours(1)); }, kChangedOnDiskReason, one},
-      {"a copy with the same size and time", moveIn([](const fs::path& p, const fs::path& copy) {
-         fs::copy_file(p, copy);
-         fs::last_write_time(copy, fs::last_write_time(p));
-       }), kChangedOnDiskReason, one},
-      {"a link to another copy", moveIn([](const fs::path& p, const fs::path& link) {
-         fs::copy_file(p, p.string() + ".other");
-         fs::create_symlink(p.string() + ".other", link);
-       }), kChangedOnDiskReason, one},
-      {"a folder", [](const fs::path& p) { fs::remove(p), fs::create_directory(p); }, std::system_category().message(EISDIR), one},
-      {"deleted", [](const fs::path& p) { fs::remove(p); }, kMissingReason, one},
-      {"read-only", [](const fs::path& p) { ::chmod(p.c_str(), 0444); }, kReadOnlyReason, one},
-      {"a date past the end", [](const fs::path&) {}, kBeyondEndReason, {{10, kDate}, {400 - 18, kDate}}},
-      {"a date far past the end", [](const fs::path&) {}, kBeyondEndReason, {{UINT64_MAX - 5, kDate}}},
+      {"grown by one byte", resize(401), kChangedOnDiskReason},
+      {"truncated by one byte", resize(399), kChangedOnDiskReason},
+      {"truncated to nothing", resize(0), kChangedOnDiskReason},
+      {"same bytes, another time",
+       [](const fs::path& p) { fs::last_write_time(p, fs::last_write_time(p) - std::chrono::hours(1)); },
+       kChangedOnDiskReason},
+      {"a copy with the same size and time",
+       [&](const fs::path& p) { copyKeepingTime(p, p.string() + ".new"), fs::rename(p.string() + ".new", p); },
+       kChangedOnDiskReason},
+      {"a link to another copy",
+       [&](const fs::path& p) {
+         copyKeepingTime(p, p.string() + ".o"), fs::remove(p), fs::create_symlink(p.string() + ".o", p);
+       },
+       kChangedOnDiskReason},
+      {"a folder", [](const fs::path& p) { fs::remove(p), fs::create_directory(p); }, errnoText(EISDIR)},
+      {"deleted", [](const fs::path& p) { fs::remove(p); }, kMissingReason},
+      {"read-only", [](const fs::path& p) { ::chmod(p.c_str(), 0444); }, kReadOnlyReason},
+      {"a date past the end", none, kBeyondEndReason, {{10, kDate}, {400 - 18, kDate}}},
+      {"a date far past the end", none, kBeyondEndReason, {{UINT64_MAX - 5, kDate}}},
   };
   for (const auto& c : cases) {
     SCOPED_TRACE(c.name);
@@ -148,7 +151,7 @@ TEST(InPlaceWriter, ABatchIsFlushedOncePerFileSystemAndAFailedFlushCoversOnlyIts
     EXPECT_EQ(flushed, std::multiset<std::uint64_t>(devices.begin(), devices.end()));
     ASSERT_EQ(reasons.size(), folders.size());
     for (std::size_t i = 0; i < folders.size(); ++i) {
-      EXPECT_EQ(reasons[i], diskFails && deviceOf(folders[i]) == deviceOf(disk.path()) ? std::system_category().message(EIO) : "") << i;
+      EXPECT_EQ(reasons[i], diskFails && deviceOf(folders[i]) == deviceOf(disk.path()) ? errnoText(EIO) : "") << i;
       // Written either way: only the bytes' way to the disk is in doubt.
       EXPECT_EQ(readBytes(folders[i] / ("p" + std::to_string(i))), patched(patches));
       EXPECT_EQ(::fcntl(fds[i], F_GETFD), -1) << "the flush left a descriptor open";

@@ -33,7 +33,8 @@ TEST(FileData, AHeadIsTheFileStartWithTheWholeFilesStamp) {
       const auto data = FileData::readHead(temp.path(), length);
       ASSERT_TRUE(data);
       const std::size_t kept = std::min(size, length);
-      EXPECT_EQ(Bytes(data->bytes().data(), data->bytes().data() + data->size()), Bytes(bytes.begin(), bytes.begin() + kept));
+      EXPECT_EQ(Bytes(data->bytes().data(), data->bytes().data() + data->size()),
+                Bytes(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(kept)));
       EXPECT_EQ(data->stampAsOpened(), lum::FileStamp::of(temp.path()));
       EXPECT_EQ(data->holdsWholeFile(), kept == size);
     }

@@ -17,9 +17,10 @@ using lumtest::flatGrayJpeg;
 Bytes photo(int width, int height, const Bytes& thumbnail, std::uint32_t offsetShift = 0) {
   Bytes tiff = {'I', 'I', 42, 0, 8, 0, 0, 0, /* IFD0 */ 0, 0, 14, 0, 0, 0, /* IFD1 */ 2, 0};
   for (const auto& [tag, value] : {std::pair<std::uint8_t, std::uint32_t>{0x01, 44 + offsetShift},
-                                   {0x02, static_cast<std::uint32_t>(thumbnail.size())}})
-    tiff.insert(tiff.end(), {tag, 0x02, 4, 0, 1, 0, 0, 0, static_cast<std::uint8_t>(value), static_cast<std::uint8_t>(value >> 8),
-                             static_cast<std::uint8_t>(value >> 16), static_cast<std::uint8_t>(value >> 24)});
+                                   {0x02, static_cast<std::uint32_t>(thumbnail.size())}}) {
+    tiff.insert(tiff.end(), {tag, 0x02, 4, 0, 1, 0, 0, 0});
+    for (int shift = 0; shift < 32; shift += 8) tiff.push_back(static_cast<std::uint8_t>(value >> shift));
+  }
   tiff.insert(tiff.end(), 4, 0);
   tiff.insert(tiff.end(), thumbnail.begin(), thumbnail.end());
   Bytes out = lumtest::JpegBuilder().exif(thumbnail.empty() ? lumtest::exifTiff({}, {}) : tiff).build(false);

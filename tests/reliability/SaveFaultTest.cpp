@@ -37,7 +37,10 @@ struct Copy {
 // The first and one-past-last byte of the single run the writer writes.
 std::pair<std::uint64_t, std::uint64_t> runOf(const DatedPhoto& photo) {
   std::uint64_t first = UINT64_MAX, end = 0;
-  for (const auto& p : photo.patches) first = std::min(first, p.position), end = std::max(end, p.position + p.bytes.size());
+  for (const auto& p : photo.patches) {
+    first = std::min(first, p.position);
+    end = std::max(end, p.position + p.bytes.size());
+  }
   return {first, end};
 }
 
@@ -62,7 +65,8 @@ InPlaceWriter::WriteFunction failingWriter(std::size_t budget, int error, int fa
 // size kept, and nothing outside the run moves.
 TEST(SaveFaults, AWriteThatFailsPartWayIsReportedAndNeverMovesBytesOutsideTheDates) {
   LUMTEST_REQUIRE_REAL_DATA();
-  const struct { const char* name; int error, failures; } disks[] = {{"fails once", ENOSPC, 1}, {"stays broken", EIO, 1000}};
+  const struct { const char* name; int error, failures; } disks[] = {{"fails once", ENOSPC, 1},
+                                                                      {"stays broken", EIO, 1000}};
   for (const auto& disk : disks) {
     int faults = 0;
     for (const DatedPhoto* photo : reltest::photosForFaults()) {
@@ -112,14 +116,13 @@ TEST(SaveFaults, AFailedFlushFailsTheFilesItCoveredAndNoOther) {
   // must be among the failures.
   int flushes = 0;
   std::set<fs::path> failedFlushes;
-  doc->setFlushFunction(
-      [&](int fd) {
-        if (++flushes % 2) return ::syncfs(fd);
-        std::error_code ec;
-        failedFlushes.insert(fs::read_symlink("/proc/self/fd/" + std::to_string(fd), ec));
-        return errno = EIO, -1;
-      },
-      2);
+  const auto flush = [&](int fd) {
+    if (++flushes % 2) return ::syncfs(fd);
+    std::error_code ec;
+    failedFlushes.insert(fs::read_symlink("/proc/self/fd/" + std::to_string(fd), ec));
+    return errno = EIO, -1;
+  };
+  doc->setFlushFunction(flush, 2);
   const auto outcome = reltest::saveAndWait(*doc);
   ASSERT_TRUE(outcome.has_value()) << "the save never finished";
   EXPECT_EQ(flushes, static_cast<int>((photos.size() + 1) / 2));
