@@ -73,9 +73,7 @@ TEST(InPlaceWriter, RefusesAFileThatIsNotTheOneOpenedAndLeavesItAlone) {
   };
   const auto none = [](const fs::path&) {};
   const struct {
-    const char* name;
-    std::function<void(const fs::path&)> change;
-    std::string reason;
+    const char* name; std::function<void(const fs::path&)> change; std::string reason;
     std::vector<BytePatch> patches = {{10, kDate}};
   } cases[] = {
       {"grown by one byte", resize(401), kChangedOnDiskReason},

@@ -53,9 +53,7 @@ TEST(JpegScan, Layouts) {
   cutApp1.resize(8);
   const std::nullopt_t no = std::nullopt;
   const struct {
-    const char* name;
-    Bytes bytes;
-    std::optional<std::uint64_t> header;
+    const char* name; Bytes bytes; std::optional<std::uint64_t> header;
     std::optional<LumRange> exif = {}, jfif = {};  // checked when given
   } cases[] = {
       {"APP1 right after SOI", JpegBuilder().exif(kTiff).build(), 12},

@@ -31,12 +31,7 @@ Bytes photo(int width, int height, const Bytes& thumbnail, std::uint32_t offsetS
 
 TEST(LumImageFileThumbnail, TheCamerasThumbnailOnlyWhenItGivesTheSameSize) {
   const Bytes white4x3 = flatGrayJpeg(160, 120, 255);
-  const struct {
-    const char* name;
-    Bytes bytes;
-    int width, height;
-    bool embedded;
-  } cases[] = {
+  const struct { const char* name; Bytes bytes; int width, height; bool embedded; } cases[] = {
       {"same shape, larger than the box", photo(640, 480, white4x3), 150, 113, true},
       {"padded to another shape", photo(600, 400, white4x3), 150, 100, false},
       {"smaller than the box needs", photo(640, 480, flatGrayJpeg(80, 60, 255)), 150, 113, false},
