@@ -17,11 +17,7 @@ namespace fs = std::filesystem;
 using lum::FileData;
 using lumtest::Bytes;
 
-Bytes pattern(std::size_t size) {
-  Bytes bytes(size);
-  std::iota(bytes.begin(), bytes.end(), std::uint8_t{7});
-  return bytes;
-}
+Bytes pattern(std::size_t size) { Bytes b(size); std::iota(b.begin(), b.end(), std::uint8_t{7}); return b; }
 
 TEST(FileData, AHeadIsTheFileStartWithTheWholeFilesStamp) {
   constexpr std::size_t kHead = 4096;
