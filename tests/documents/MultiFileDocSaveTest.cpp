@@ -15,15 +15,16 @@
 
 using namespace doctest_support;
 using Doc = LumMultiFileDoc;
+namespace fs = std::filesystem;
 
 namespace {
 
 const std::string kA = "2020:01:31 10:00:00";
 const std::string kB = "2019:12:31 23:30:00";
 
-std::size_t find(const std::vector<std::uint8_t>& bytes, const std::string& text) {
-  const auto it = std::search(bytes.begin(), bytes.end(), text.begin(), text.end());
-  return static_cast<std::size_t>(it - bytes.begin());
+bool holds(const fs::path& p, const std::string& text) {
+  const auto bytes = readBytes(p);
+  return std::search(bytes.begin(), bytes.end(), text.begin(), text.end()) != bytes.end();
 }
 
 struct SaveFixture : ::testing::Test {
@@ -31,65 +32,53 @@ struct SaveFixture : ::testing::Test {
   std::unique_ptr<Doc> doc;
 
   void SetUp() override { ensureApplication(); }
-
   void open(const std::vector<std::pair<std::string, PhotoDates>>& photos) {
     std::vector<std::unique_ptr<LumFileItemDoc>> items;
     for (const auto& [name, dates] : photos) items.push_back(openItem(writePhoto(folder, name, dates)));
     doc = std::make_unique<Doc>(std::move(items));
   }
-  // Runs a save and waits for its outcome.
   LumSaveOutcome save(bool all = true) {
     LumSaveOutcome outcome;
     QEventLoop loop;
-    QObject::connect(doc.get(), &Doc::saveFinished, &loop, [&](const LumSaveOutcome& o) {
-      outcome = o;
-      loop.quit();
-    });
+    QObject::connect(doc.get(), &Doc::saveFinished, &loop, [&](const LumSaveOutcome& o) { outcome = o, loop.quit(); });
     QTimer::singleShot(20000, &loop, &QEventLoop::quit);
     EXPECT_TRUE(doc->saveFileAll(all, false, false));
     if (doc->isSaving()) loop.exec();
     return outcome;
   }
   LumFileItemDoc& item(const std::string& name) { return *doc->itemForURL(folder / name); }
+  void type(const std::string& name, const char* column, const char* text) {
+    doc->controlTextDidEndEditing(*doc->rowOf(&item(name)), column, text, false);
+  }
 };
 
 TEST_F(SaveFixture, ChangesExactlyTheChangedDatesAndRereadsTheFile) {
   open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, kB, kB}}});
-  doc->controlTextDidEndEditing(*doc->rowOf(&item("a.jpg")), "DateTimeOriginal", "2001:02:03 04:05:06", false);
+  type("a.jpg", "DateTimeOriginal", "2001:02:03 04:05:06");
   doc->setEditStateOnAllFiles();
   doc->setEditTargetMask(2);  // digitized only
   doc->setFieldValue(Doc::Second, 1);
   doc->applyToAllFiles();
-  ASSERT_EQ(doc->editedFileCount(), 2u);
-
-  QSignalSpy started(doc.get(), &Doc::savingStarted);
   std::vector<QString> notices;
   const auto connection = QObject::connect(&LumNotificationCenter::defaultCenter(), &LumNotificationCenter::posted,
                                            [&](const QString& name, const void*) { notices.push_back(name); });
+  QSignalSpy started(doc.get(), &Doc::savingStarted);
   const LumSaveOutcome outcome = save();
+  QObject::disconnect(connection);
   EXPECT_EQ(outcome.total, 2u);
-  EXPECT_TRUE(outcome.failures.empty());
-  EXPECT_FALSE(outcome.alert);
-
-  // a.jpg: its original and its digitized date; b.jpg: its digitized date.
+  EXPECT_EQ(started.at(0).at(0).toInt(), 2);
+  EXPECT_TRUE(outcome.failures.empty() && !outcome.alert);
+  EXPECT_EQ(notices, std::vector<QString>{kLumImageFileDidSaveNotification});
   EXPECT_EQ(readBytes(folder / "a.jpg"), photoBytes({"2001:02:03 04:05:06", "2020:01:31 10:00:01", kA}));
   EXPECT_EQ(readBytes(folder / "b.jpg"), photoBytes({kB, "2019:12:31 23:30:01", kB}));
-
   // The models now hold the saved files; nothing is edited, nothing undoable.
   EXPECT_FALSE(doc->hasEditedFile());
   EXPECT_EQ(doc->undoStack().count(), 0);
-  EXPECT_EQ(item("a.jpg").imageFile().originalDateTimeOriginalString(), "2001:02:03 04:05:06");
-  EXPECT_EQ(item("a.jpg").imageFile().stampAsOpened(), lum::FileStamp::of(folder / "a.jpg"));
-  ASSERT_EQ(started.count(), 1);
-  EXPECT_EQ(started[0][0].toInt(), 2);
-  QObject::disconnect(connection);
-  EXPECT_EQ(notices, std::vector<QString>{kLumImageFileDidSaveNotification});
-
   // A second edit saves against the re-read file.
-  doc->controlTextDidEndEditing(*doc->rowOf(&item("a.jpg")), "DateTime", "1999:09:09 09:09:09", false);
+  type("a.jpg", "DateTime", "1999:09:09 09:09:09");
   EXPECT_TRUE(save().failures.empty());
-  EXPECT_EQ(find(readBytes(folder / "a.jpg"), "1999:09:09 09:09:09"),
-            *item("a.jpg").imageFile().dateValueOffset(LumDateField::DateTime));
+  EXPECT_EQ(readBytes(folder / "a.jpg"), photoBytes(
+                                             {"2001:02:03 04:05:06", "2020:01:31 10:00:01", "1999:09:09 09:09:09"}));
 }
 
 TEST_F(SaveFixture, FailedFilesAreReportedInRowOrderWithTheirReasonWhileTheOthersAreSaved) {
@@ -100,36 +89,40 @@ TEST_F(SaveFixture, FailedFilesAreReportedInRowOrderWithTheirReasonWhileTheOther
   doc->setFieldValue(Doc::Minute, 30);
   doc->applyToAllFiles();
   doc->setFlushFunction({}, 8);  // five batches
-  // Every seventh file fails, for each of these reasons in turn.
-  std::set<std::filesystem::path> writeFails;
-  const std::pair<std::function<void(const std::filesystem::path&)>, std::string> faults[] = {
-      {[](const auto& p) { std::filesystem::remove(p); }, ""},
+  // Every seventh file is changed after opening, by each of these in turn.
+  std::set<fs::path> writeFails;
+  const std::pair<std::function<void(const fs::path&)>, std::string> faults[] = {
+      {[](const auto& p) { fs::remove(p); }, ""},
       {[](const auto& p) { std::ofstream(p, std::ios::app) << "more"; }, InPlaceWriter::kChangedOnDiskReason},
       {[](const auto& p) { ::chmod(p.c_str(), 0444); }, InPlaceWriter::kReadOnlyReason},
-      {[&](const auto& p) { writeFails.insert(p); }, std::system_category().message(EIO)}};
+      {[&](const auto& p) { writeFails.insert(p); }, std::system_category().message(EIO)},
+      {[](const fs::path& p) {  // replaced by a copy with the same size and time
+         fs::copy_file(p, p.string() + ".copy");
+         fs::last_write_time(p.string() + ".copy", fs::last_write_time(p));
+         fs::rename(p.string() + ".copy", p);
+       },
+       InPlaceWriter::kChangedOnDiskReason}};
   doc->setWriteFunction([&writeFails](int fd, const void* buffer, std::size_t count, off_t offset) -> ssize_t {
     std::error_code ec;
-    if (writeFails.count(std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(fd), ec)))
-      return errno = EIO, -1;
+    if (writeFails.count(fs::read_symlink("/proc/self/fd/" + std::to_string(fd), ec))) return errno = EIO, -1;
     return ::pwrite(fd, buffer, count, offset);
   });
-  std::vector<std::pair<std::filesystem::path, std::string>> failing;
-  std::map<std::filesystem::path, std::vector<std::uint8_t>> failedBytes;
+  std::vector<std::pair<fs::path, std::string>> failing;
+  std::map<fs::path, std::vector<std::uint8_t>> failedBytes;
   for (int row = 0; row < doc->rowCount(); row += 7) {
     const auto& [change, reason] = faults[failing.size() % std::size(faults)];
-    failing.emplace_back(doc->item(row).path(), reason);
-    change(failing.back().first);
-    failedBytes[failing.back().first] = readBytes(failing.back().first);
+    const fs::path& p = failing.emplace_back(doc->item(row).path(), reason).first;
+    change(p);
+    failedBytes[p] = readBytes(p);
   }
   QSignalSpy progress(doc.get(), &Doc::savingProgress);
   const LumSaveOutcome outcome = save();
   EXPECT_EQ(outcome.total, 40u);
-  std::vector<std::pair<std::filesystem::path, std::string>> reported;
+  std::vector<std::pair<fs::path, std::string>> reported;
   for (const SaveReport::Failure& f : outcome.failures) reported.emplace_back(f.path, f.reason);
   EXPECT_EQ(reported, failing);
   EXPECT_TRUE(outcome.alert);
-  // A failed file stays edited and can be saved again; the undo history is gone.
-  EXPECT_EQ(doc->undoStack().count(), 0);
+  // A failed file keeps its bytes and stays edited, to be saved again.
   for (int row = 0; row < doc->rowCount(); ++row) {
     const LumFileItemDoc& it = doc->item(row);
     const bool failed = failedBytes.count(it.path()) == 1;
@@ -137,11 +130,10 @@ TEST_F(SaveFixture, FailedFilesAreReportedInRowOrderWithTheirReasonWhileTheOther
     if (failed) {
       EXPECT_EQ(readBytes(it.path()), failedBytes[it.path()]) << it.path();
     } else {
-      EXPECT_LT(find(readBytes(it.path()), "2020:01:31 10:30:00"), readBytes(it.path()).size()) << it.path();
+      EXPECT_TRUE(holds(it.path(), "2020:01:31 10:30:00")) << it.path();
     }
   }
   ASSERT_EQ(progress.count(), 40);
-  for (int i = 1; i < progress.count(); ++i) EXPECT_LT(progress[i - 1][0].toDouble(), progress[i][0].toDouble());
   EXPECT_DOUBLE_EQ(progress.back()[0].toDouble(), 100.0);
 }
 
@@ -149,57 +141,43 @@ TEST_F(SaveFixture, OnePhotoOpenedUnderTwoNamesNeverLosesAChangeReportedAsSaved)
   // "b.jpg" is a second name of "a.jpg". Row a changes the first and last
   // dates (one run of bytes across the middle one), row b the middle one.
   open({{"a.jpg", {kA, kA, kA}}});
-  std::filesystem::create_hard_link(folder / "a.jpg", folder / "b.jpg");
+  fs::create_hard_link(folder / "a.jpg", folder / "b.jpg");
   std::vector<std::unique_ptr<LumFileItemDoc>> items;
-  items.push_back(openItem(folder / "a.jpg"));
-  items.push_back(openItem(folder / "b.jpg"));
+  for (const char* name : {"a.jpg", "b.jpg"}) items.push_back(openItem(folder / name));
   doc = std::make_unique<Doc>(std::move(items));
-  doc->controlTextDidEndEditing(*doc->rowOf(&item("a.jpg")), "DateTimeOriginal", "2001:01:01 01:01:01", false);
-  doc->controlTextDidEndEditing(*doc->rowOf(&item("a.jpg")), "DateTime", "2003:03:03 03:03:03", false);
-  doc->controlTextDidEndEditing(*doc->rowOf(&item("b.jpg")), "DateTimeDigitized", "2002:02:02 02:02:02", false);
-
+  type("a.jpg", "DateTimeOriginal", "2001:01:01 01:01:01");
+  type("a.jpg", "DateTime", "2003:03:03 03:03:03");
+  type("b.jpg", "DateTimeDigitized", "2002:02:02 02:02:02");
   const LumSaveOutcome outcome = save();
-  const auto bytes = readBytes(folder / "a.jpg");
-  const auto has = [&](const std::string& text) { return find(bytes, text) < bytes.size(); };
-  EXPECT_TRUE(has("2001:01:01 01:01:01") || has("2002:02:02 02:02:02"));
+  const fs::path file = folder / "a.jpg";
+  EXPECT_TRUE(holds(file, "2001:01:01 01:01:01") || holds(file, "2002:02:02 02:02:02"));
   for (const auto& [name, text] : {std::pair{"a.jpg", "2001:01:01 01:01:01"}, {"b.jpg", "2002:02:02 02:02:02"}}) {
     const bool failed = std::any_of(outcome.failures.begin(), outcome.failures.end(),
                                     [&](const SaveReport::Failure& f) { return f.path == folder / name; });
-    EXPECT_EQ(has(text), !failed) << name;
+    EXPECT_EQ(holds(file, text), !failed) << name;
   }
 }
 
-TEST_F(SaveFixture, SavingTheSelectionOnly) {
+TEST_F(SaveFixture, SavingTheSelectionOnlyKeepsThumbnails) {
   open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, kB, kB}}});
+  QSignalSpy ready(doc.get(), &Doc::thumbnailReady);
+  doc->requestThumbnail(0);
+  doc->requestThumbnail(0);  // one job per file
+  ASSERT_TRUE(ready.wait(20000));
   const auto beforeB = readBytes(folder / "b.jpg");
   doc->setEditStateOnAllFiles();
   doc->setFieldValue(Doc::Day, 1);
   doc->applyToAllFiles();
   doc->setSelectedRows({});
-  QSignalSpy started(doc.get(), &Doc::savingStarted);
   EXPECT_TRUE(doc->saveFileAll(false, false, false));  // nothing edited among the selection
   EXPECT_FALSE(doc->isSaving());
-  EXPECT_EQ(started.count(), 0);
-
   doc->setSelectedRows({*doc->rowOf(&item("a.jpg"))});
   QSignalSpy progress(doc.get(), &Doc::savingProgress);
-  const LumSaveOutcome outcome = save(false);
-  EXPECT_EQ(outcome.total, 1u);
+  EXPECT_EQ(save(false).total, 1u);
   EXPECT_EQ(progress.count(), 0);  // one file: no progress
   EXPECT_EQ(readBytes(folder / "b.jpg"), beforeB);
   EXPECT_FALSE(item("a.jpg").isEdited());
   EXPECT_TRUE(item("b.jpg").isEdited());
-}
-
-TEST_F(SaveFixture, ThumbnailsAreMadeInTheBackgroundAndSurviveASave) {
-  open({{"a.jpg", {kA, kA, kA}}});
-  QSignalSpy ready(doc.get(), &Doc::thumbnailReady);
-  doc->requestThumbnail(0);
-  doc->requestThumbnail(0);  // one job per file
-  ASSERT_TRUE(ready.wait(20000));
-  ASSERT_TRUE(item("a.jpg").imageFile().thumbnail());
-  doc->controlTextDidEndEditing(0, "DateTime", "2001:01:01 01:01:01", false);
-  EXPECT_TRUE(save().failures.empty());
   EXPECT_TRUE(item("a.jpg").imageFile().thumbnail());
 }
 

@@ -6,29 +6,26 @@
 
 #include <fstream>
 #include <functional>
-#include <string>
+#include <numeric>
 
 #include "formats/FileData.h"
 #include "formats/ImageFileTestSupport.h"
 
 namespace {
 
+namespace fs = std::filesystem;
 using lum::FileData;
 using lumtest::Bytes;
 
-Bytes pattern(std::size_t size) {
-  Bytes bytes(size);
-  for (std::size_t i = 0; i < size; ++i) bytes[i] = static_cast<std::uint8_t>(i * 31 + 7);
-  return bytes;
-}
+Bytes pattern(std::size_t size) { Bytes b(size); std::iota(b.begin(), b.end(), std::uint8_t{7}); return b; }
 
 TEST(FileData, AHeadIsTheFileStartWithTheWholeFilesStamp) {
   constexpr std::size_t kHead = 4096;
-  for (const std::size_t size : {std::size_t{0}, std::size_t{1}, kHead, kHead + 1, 10 * kHead}) {
-    SCOPED_TRACE(size);
+  for (const std::size_t size : {std::size_t{0}, kHead, kHead + 1}) {
     const Bytes bytes = pattern(size);
     const lumtest::TempFile temp(bytes);
     for (const std::size_t length : {kHead, FileData::kWholeFile}) {
+      SCOPED_TRACE(std::to_string(size) + " bytes read up to " + std::to_string(length));
       const auto data = FileData::readHead(temp.path(), length);
       ASSERT_TRUE(data);
       const std::size_t kept = std::min(size, length);
@@ -41,11 +38,7 @@ TEST(FileData, AHeadIsTheFileStartWithTheWholeFilesStamp) {
 }
 
 TEST(FileData, AReadAfterOpeningRefusesAFileThatIsNoLongerTheOneOpened) {
-  namespace fs = std::filesystem;
-  const struct {
-    const char* name;
-    std::function<void(const fs::path&)> change;
-  } cases[] = {
+  const std::pair<const char*, std::function<void(const fs::path&)>> cases[] = {
       {"left alone", nullptr},
       // Another program's write lands in a later clock tick than the
       // opening; the time is moved on so that holds however fast this runs.
@@ -61,34 +54,33 @@ TEST(FileData, AReadAfterOpeningRefusesAFileThatIsNoLongerTheOneOpened) {
        }},
       {"deleted", [](const fs::path& p) { fs::remove(p); }},
   };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.name);
+  for (const auto& [name, change] : cases) {
+    SCOPED_TRACE(name);
     const lumtest::TempFile temp(pattern(10000));
     const auto opened = FileData::readHead(temp.path(), 16);
     ASSERT_TRUE(opened);
-    if (c.change) c.change(temp.path());
+    if (change) change(temp.path());
     lum::ReadFailure failure;
     const auto again = FileData::readIfUnchanged(temp.path(), *opened->stampAsOpened(), FileData::kWholeFile, &failure);
-    EXPECT_EQ(again ? again->size() : 0, c.change ? 0u : 10000u);
-    EXPECT_EQ(failure.reason, c.change ? lum::kChangedSinceOpenedReason : "");
+    EXPECT_EQ(again ? again->size() : 0, change ? 0u : 10000u);
+    EXPECT_EQ(failure.reason, change ? lum::kChangedSinceOpenedReason : "");
   }
 }
 
 TEST(FileData, AFailureSaysWhatHappened) {
   const lumtest::TempFile unreadable(pattern(10));
-  std::filesystem::permissions(unreadable.path(), std::filesystem::perms::none);
-  const bool asRoot = ::geteuid() == 0;  // root reads whatever the permissions say
-  const struct { std::filesystem::path path; const char* suggestion; } cases[] = {
+  fs::permissions(unreadable.path(), fs::perms::none);
+  const std::pair<fs::path, const char*> failures[] = {
       {"/", "Choose a regular file, not a folder or a device."},
       {"/nonexistent/lumidate/photo.jpg", "Check that the file exists."},
       {unreadable.path(), "Check the file's permissions."},
   };
-  for (const auto& c : cases) {
-    if (asRoot && c.path == unreadable.path()) continue;
+  for (const auto& [path, suggestion] : failures) {
+    if (::geteuid() == 0 && path == unreadable.path()) continue;  // root reads whatever the permissions say
     lum::ReadFailure failure;
-    EXPECT_EQ(FileData::readHead(c.path, 4096, &failure), nullptr) << c.path;
-    EXPECT_FALSE(failure.reason.empty()) << c.path;
-    EXPECT_EQ(failure.recoverySuggestion, c.suggestion) << c.path;
+    EXPECT_EQ(FileData::readHead(path, 4096, &failure), nullptr) << path;
+    EXPECT_FALSE(failure.reason.empty()) << path;
+    EXPECT_EQ(failure.recoverySuggestion, suggestion) << path;
   }
 }
 

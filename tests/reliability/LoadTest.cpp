@@ -5,7 +5,6 @@
 //
 // LUMIDATE_LOAD_FILES sets the number of files (default 500; RELIABILITY.md
 // gives the figures for 20000).
-#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -13,7 +12,6 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <functional>
 
 #include "DatedPhotos.h"
 #include "DocumentHarness.h"
@@ -23,40 +21,15 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::size_t openDescriptors() {
-  std::size_t n = 0;
-  for ([[maybe_unused]] const auto& e : fs::directory_iterator("/proc/self/fd")) ++n;
-  return n;
+double openDescriptors() {
+  return static_cast<double>(std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator()));
 }
 
 // Resident memory now, in KB.
-long residentKB() {
-  std::ifstream statm("/proc/self/statm");
+double residentKB() {
   long pages = 0, resident = 0;
-  statm >> pages >> resident;
-  return resident * (::sysconf(_SC_PAGESIZE) / 1024);
-}
-
-long peakKB() {
-  rusage usage{};
-  ::getrusage(RUSAGE_SELF, &usage);
-  return usage.ru_maxrss;
-}
-
-bool mapsAnyFileIn(const fs::path& folder) {
-  std::ifstream maps("/proc/self/maps");
-  for (std::string line; std::getline(maps, line);)
-    if (line.find(folder.string()) != std::string::npos) return true;
-  return false;
-}
-
-// Runs `lumidate-cli shift --days 1 folder`; answers its exit status and peak memory.
-std::pair<int, long> shiftWithTool(const fs::path& folder) {
-  const pid_t pid = reltest::startShiftByOneDay(folder);
-  int status = 0;
-  rusage usage{};
-  ::wait4(pid, &status, 0, &usage);
-  return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, usage.ru_maxrss};
+  std::ifstream("/proc/self/statm") >> pages >> resident;
+  return static_cast<double>(resident * (::sysconf(_SC_PAGESIZE) / 1024));
 }
 
 TEST(Load, ManyFilesStayBoundedLeakNoDescriptorAndEndAsIntended) {
@@ -65,84 +38,56 @@ TEST(Load, ManyFilesStayBoundedLeakNoDescriptorAndEndAsIntended) {
   reltest::ScratchFolder folder;
   const auto paths = reltest::writeSmallPhotos(folder.path(), count);
   std::vector<std::vector<std::uint8_t>> intended;
-  intended.reserve(paths.size());
   for (const fs::path& p : paths) intended.push_back(reltest::shiftedBytes(reltest::readAll(p), {0, 0, 1, 0, 0, 1}));
+  const auto expectIntended = [&] {
+    for (std::size_t i = 0; i < paths.size(); ++i) ASSERT_EQ(reltest::readAll(paths[i]), intended[i]) << paths[i];
+  };
 
   reltest::qtApp();
-  const std::size_t descriptorsBefore = openDescriptors();
-  const long residentBefore = residentKB();
+  const double descriptorsBefore = openDescriptors(), residentBefore = residentKB();
   {
     auto doc = reltest::openDocument(paths);
     ASSERT_EQ(doc->rowCount(), count);
-    EXPECT_FALSE(mapsAnyFileIn(folder.path())) << "an opened file stays mapped";
-    const std::size_t descriptorsLoaded = openDescriptors();
-    const long residentLoaded = residentKB();
+    const double descriptorsLoaded = openDescriptors(), perFileKB = (residentKB() - residentBefore) / count;
+    std::ifstream maps("/proc/self/maps");
+    for (std::string line; std::getline(maps, line);)
+      EXPECT_EQ(line.find(folder.path().string()), std::string::npos) << "an opened file stays mapped: " << line;
+    maps.close();
 
     reltest::shiftAllOneDay(*doc);
-    ASSERT_EQ(static_cast<int>(doc->editedFileCount()), count);
     doc->undoStack().undo();
     EXPECT_EQ(doc->editedFileCount(), 0u) << "undo left files edited";
     doc->undoStack().redo();
     ASSERT_EQ(static_cast<int>(doc->editedFileCount()), count);
-
     const auto outcome = reltest::saveAndWait(*doc);
     ASSERT_TRUE(outcome.has_value());
     EXPECT_TRUE(outcome->failures.empty());
-    const std::size_t descriptorsSaved = openDescriptors();
-    const long peak = peakKB();
+    const double descriptorsSaved = openDescriptors();
+    rusage usage{};
+    ::getrusage(RUSAGE_SELF, &usage);
 
     EXPECT_LE(descriptorsLoaded, descriptorsBefore + 2) << "loading keeps descriptors open";
     EXPECT_LE(descriptorsSaved, descriptorsBefore + 2) << "saving keeps descriptors open";
-    const double perFileKB = static_cast<double>(residentLoaded - residentBefore) / count;
     EXPECT_LT(perFileKB, 64.0) << "each opened file holds this much memory";
     reltest::reportFigure("load: files", count);
     reltest::reportFigure("load: resident KB per file opened", perFileKB);
-    reltest::reportFigure("load: process peak resident MB", static_cast<double>(peak) / 1024.0);
-    reltest::reportFigure("load: open descriptors before loading", static_cast<double>(descriptorsBefore));
-    reltest::reportFigure("load: open descriptors after loading", static_cast<double>(descriptorsLoaded));
-    reltest::reportFigure("load: open descriptors after saving", static_cast<double>(descriptorsSaved));
+    reltest::reportFigure("load: process peak resident MB", static_cast<double>(usage.ru_maxrss) / 1024.0);
+    reltest::reportFigure("load: open descriptors before loading", descriptorsBefore);
+    reltest::reportFigure("load: open descriptors after loading", descriptorsLoaded);
+    reltest::reportFigure("load: open descriptors after saving", descriptorsSaved);
   }
-  for (std::size_t i = 0; i < paths.size(); ++i) ASSERT_EQ(reltest::readAll(paths[i]), intended[i]) << paths[i];
+  expectIntended();
   EXPECT_EQ(openDescriptors(), descriptorsBefore) << "closing the document left descriptors open";
 
   // The same folder once more through the command-line tool.
-  for (std::size_t i = 0; i < paths.size(); ++i)
-    intended[i] = reltest::shiftedBytes(reltest::readAll(paths[i]), {0, 0, 1, 0, 0, 0});
-  const auto [status, toolPeakKB] = shiftWithTool(folder.path());
-  EXPECT_EQ(status, 0);
-  for (std::size_t i = 0; i < paths.size(); ++i) ASSERT_EQ(reltest::readAll(paths[i]), intended[i]) << paths[i];
-  reltest::reportFigure("load: command-line peak resident MB", static_cast<double>(toolPeakKB) / 1024.0);
-  reltest::reportFigure("load: command-line peak resident KB per file", static_cast<double>(toolPeakKB) / count);
-}
-
-// A file changed by another program after the document opened it is not
-// saved, and keeps the bytes the other program left; the others are saved.
-TEST(Load, FilesChangedAfterOpeningAreNotWritten) {
-  const std::function<void(const fs::path&)> changes[] = {
-      nullptr,  // left alone: saved
-      [](const fs::path& p) { fs::resize_file(p, fs::file_size(p) / 2); },
-      [](const fs::path& p) {  // replaced by a copy of itself with the same time
-        fs::copy_file(p, p.string() + ".copy");
-        fs::last_write_time(p.string() + ".copy", fs::last_write_time(p));
-        fs::rename(p.string() + ".copy", p);
-      },
-  };
-  reltest::ScratchFolder folder;
-  const auto paths = reltest::writeSmallPhotos(folder.path(), static_cast<int>(std::size(changes)));
-  reltest::qtApp();
-  auto doc = reltest::openDocument(paths);
-  reltest::shiftAllOneDay(*doc);
-  std::vector<std::vector<std::uint8_t>> before;
-  for (std::size_t i = 0; i < paths.size(); ++i) {
-    if (changes[i]) changes[i](paths[i]);
-    before.push_back(reltest::readAll(paths[i]));
-  }
-  const auto outcome = reltest::saveAndWait(*doc);
-  ASSERT_TRUE(outcome.has_value());
-  ASSERT_EQ(outcome->failures.size(), 2u);
-  for (const SaveReport::Failure& f : outcome->failures) EXPECT_EQ(f.reason, InPlaceWriter::kChangedOnDiskReason);
-  EXPECT_EQ(reltest::readAll(paths[0]), reltest::shiftedBytes(before[0], {0, 0, 1, 0, 0, 1}));
-  for (std::size_t i = 1; i < paths.size(); ++i) EXPECT_EQ(reltest::readAll(paths[i]), before[i]) << paths[i];
+  for (std::size_t i = 0; i < paths.size(); ++i) intended[i] = reltest::shiftedBytes(intended[i], {0, 0, 1, 0, 0, 0});
+  int status = 0;
+  rusage usage{};
+  ::wait4(reltest::startShiftByOneDay(folder.path()), &status, 0, &usage);
+  EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+  expectIntended();
+  reltest::reportFigure("load: command-line peak resident MB", static_cast<double>(usage.ru_maxrss) / 1024.0);
+  reltest::reportFigure("load: command-line peak resident KB per file", static_cast<double>(usage.ru_maxrss) / count);
 }
 
 }  // namespace

@@ -1,18 +1,13 @@
 // Saving real photos while the disk or the file misbehaves. After every fault
 // the file must be exactly as it was opened or exactly as intended, and a
 // failure must come back with its reason.
-#include <fcntl.h>
 #include <sys/resource.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <gtest/gtest.h>
 
-#include <cerrno>
 #include <csignal>
-#include <cstring>
-#include <functional>
 #include <map>
 #include <set>
 #include <system_error>
@@ -22,29 +17,22 @@
 #include "support/TestData.h"
 
 using reltest::DatedPhoto;
-using reltest::ScratchFolder;
 namespace fs = std::filesystem;
 
 namespace {
 
-void reportFaults(int faults) {
-  reltest::reportFigure(std::string("faults injected, ") + ::testing::UnitTest::GetInstance()->current_test_info()->name(),
-                        faults);
-}
-
 std::string errnoText(int error) { return std::system_category().message(error); }
 
-// A copy of the photo in the scratch folder and its identity as opened.
-struct OpenedCopy {
+// A copy of the photo in a scratch folder and its identity as opened.
+struct Copy {
+  reltest::ScratchFolder folder;
   fs::path path;
   InPlaceWriter::FileIdentity opened;
+  explicit Copy(const DatedPhoto& photo) : path(folder.path() / photo.name) {
+    reltest::writeAll(path, photo.bytes);
+    opened = *InPlaceWriter::identityOfFile(path);
+  }
 };
-
-OpenedCopy openCopy(const ScratchFolder& folder, const DatedPhoto& photo) {
-  const fs::path path = folder.path() / photo.name;
-  reltest::writeAll(path, photo.bytes);
-  return {path, *InPlaceWriter::identityOfFile(path)};
-}
 
 // The first and one-past-last byte of the single run the writer writes.
 std::pair<std::uint64_t, std::uint64_t> runOf(const DatedPhoto& photo) {
@@ -56,81 +44,56 @@ std::pair<std::uint64_t, std::uint64_t> runOf(const DatedPhoto& photo) {
   return {first, end};
 }
 
-// ---- a write that fails part way ------------------------------------------------
-
-// Points in the run where the disk gives out: nothing written, one byte, just
-// before and after a whole date, half way, one byte short.
-std::vector<std::size_t> failurePoints(std::size_t runLength) {
-  std::vector<std::size_t> points{0, 1, 18, 19, 20, runLength / 2, runLength - 1};
-  std::erase_if(points, [&](std::size_t n) { return n >= runLength; });
-  return points;
-}
-
 // Takes `budget` bytes, then fails with `error`; `failures` times, then works.
 InPlaceWriter::WriteFunction failingWriter(std::size_t budget, int error, int failures) {
   auto left = std::make_shared<std::size_t>(budget);
   auto failuresLeft = std::make_shared<int>(failures);
   return [=](int fd, const void* buffer, std::size_t count, off_t offset) -> ssize_t {
     if (*failuresLeft == 0) return ::pwrite(fd, buffer, count, offset);
-    if (*left == 0) {
-      --*failuresLeft;
-      errno = error;
-      return -1;
-    }
+    if (*left == 0) return --*failuresLeft, errno = error, -1;
     const ssize_t n = ::pwrite(fd, buffer, std::min(count, *left), offset);
     if (n > 0) *left -= static_cast<std::size_t>(n);
     return n;
   };
 }
 
-// A disk that fails once leaves the file exactly as opened (the partial
-// write is put back). One that stays broken fails the restore too, so the run
-// may hold part of the new dates: no program can undo a write the disk will
-// not take. What must still hold then: the failure is reported, the size is
-// kept, and nothing outside the run moves.
+// The disk gives out after nothing, one byte, just before and after a whole
+// date, half the run, all but one byte. Failing once leaves the file exactly
+// as opened (the partial write is put back). A disk that stays broken fails
+// the restore too, so the run may hold part of the new dates: no program can
+// undo a write the disk will not take. The failure is still reported, the
+// size kept, and nothing outside the run moves.
 TEST(SaveFaults, AWriteThatFailsPartWayIsReportedAndNeverMovesBytesOutsideTheDates) {
   LUMTEST_REQUIRE_REAL_DATA();
-  const struct {
-    const char* name;
-    int error, failures;
-    bool restored;
-  } disks[] = {{"fails once", ENOSPC, 1, true}, {"stays broken", EIO, 1000, false}};
+  const struct { const char* name; int error, failures; } disks[] = {{"fails once", ENOSPC, 1},
+                                                                      {"stays broken", EIO, 1000}};
   for (const auto& disk : disks) {
     int faults = 0;
-    for (const DatedPhoto* each : reltest::photosForFaults()) {
-      const DatedPhoto& photo = *each;
-      const auto [first, end] = runOf(photo);
-      for (const std::size_t n : failurePoints(end - first)) {
-        SCOPED_TRACE(photo.name + ": " + disk.name + " after " + std::to_string(n) + " bytes");
-        ScratchFolder folder;
-        const OpenedCopy copy = openCopy(folder, photo);
-        const auto result = InPlaceWriter::writePatches(copy.path, copy.opened, photo.patches,
+    for (const DatedPhoto* photo : reltest::photosForFaults()) {
+      const auto [first, end] = runOf(*photo);
+      for (const std::size_t n : {0ul, 1ul, 18ul, 19ul, 20ul, (end - first) / 2, end - first - 1}) {
+        if (n >= end - first) continue;
+        SCOPED_TRACE(photo->name + ": " + disk.name + " after " + std::to_string(n) + " bytes");
+        const Copy copy(*photo);
+        const auto result = InPlaceWriter::writePatches(copy.path, copy.opened, photo->patches,
                                                         failingWriter(n, disk.error, disk.failures));
         ++faults;
         EXPECT_FALSE(result.ok);
         EXPECT_EQ(result.reason, errnoText(disk.error));
-        const std::vector<std::uint8_t> now = reltest::readAll(copy.path);
-        if (disk.restored) {
-          EXPECT_EQ(reltest::stateOf(now, photo), "as opened");
-        }
-        ASSERT_EQ(now.size(), photo.bytes.size());
-        const auto outside = [&](const std::vector<std::uint8_t>& bytes) {
-          std::vector<std::uint8_t> kept(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(first));
-          kept.insert(kept.end(), bytes.begin() + static_cast<std::ptrdiff_t>(end), bytes.end());
-          return kept;
-        };
-        EXPECT_EQ(outside(now), outside(photo.bytes));
+        std::vector<std::uint8_t> now = reltest::readAll(copy.path);
+        if (disk.failures == 1) { EXPECT_EQ(reltest::stateOf(now, *photo), "as opened"); }
+        ASSERT_EQ(now.size(), photo->bytes.size());
+        std::copy(photo->bytes.begin() + first, photo->bytes.begin() + end, now.begin() + first);
+        EXPECT_EQ(now, photo->bytes) << "bytes outside the dates' run changed";
       }
     }
     reltest::reportFigure(std::string("write faults injected, disk that ") + disk.name, faults);
   }
 }
 
-// ---- a flush that fails -----------------------------------------------------------
-
 TEST(SaveFaults, AFailedFlushFailsTheFilesItCoveredAndNoOther) {
   LUMTEST_REQUIRE_REAL_DATA();
-  ScratchFolder folder;
+  reltest::ScratchFolder folder;
   std::map<fs::path, const DatedPhoto*> photos;
   for (const DatedPhoto* photo : reltest::photosForFaults()) {
     photos[folder.path() / photo->name] = photo;
@@ -149,19 +112,17 @@ TEST(SaveFaults, AFailedFlushFailsTheFilesItCoveredAndNoOther) {
         doc->controlTextDidEndEditing(*doc->rowOf(item), kColumns[t.index], reltest::kNewDate, false);
     return !item || !item->isEdited();
   });
-
   // Two files a flush; every second flush fails, and the file it went through
   // must be among the failures.
   int flushes = 0;
   std::set<fs::path> failedFlushes;
-  doc->setFlushFunction(
-      [&](int fd) {
-        if (++flushes % 2) return ::syncfs(fd);
-        std::error_code ec;
-        failedFlushes.insert(fs::read_symlink("/proc/self/fd/" + std::to_string(fd), ec));
-        return errno = EIO, -1;
-      },
-      2);
+  const auto flush = [&](int fd) {
+    if (++flushes % 2) return ::syncfs(fd);
+    std::error_code ec;
+    failedFlushes.insert(fs::read_symlink("/proc/self/fd/" + std::to_string(fd), ec));
+    return errno = EIO, -1;
+  };
+  doc->setFlushFunction(flush, 2);
   const auto outcome = reltest::saveAndWait(*doc);
   ASSERT_TRUE(outcome.has_value()) << "the save never finished";
   EXPECT_EQ(flushes, static_cast<int>((photos.size() + 1) / 2));
@@ -173,52 +134,43 @@ TEST(SaveFaults, AFailedFlushFailsTheFilesItCoveredAndNoOther) {
   }
   EXPECT_TRUE(std::includes(failed.begin(), failed.end(), failedFlushes.begin(), failedFlushes.end()));
   for (const auto& [path, photo] : photos) {
-    SCOPED_TRACE(path.filename().string());
     // A failed file keeps its edit to be saved again; its bytes were written,
     // only their way to the disk is in doubt.
-    EXPECT_EQ(doc->itemForURL(path)->isEdited(), failed.count(path) == 1);
-    EXPECT_EQ(reltest::stateOf(reltest::readAll(path), *photo), "as intended");
+    EXPECT_EQ(doc->itemForURL(path)->isEdited(), failed.count(path) == 1) << path;
+    EXPECT_EQ(reltest::stateOf(reltest::readAll(path), *photo), "as intended") << path;
   }
-  reportFaults(static_cast<int>(failedFlushes.size()));
+  reltest::reportFigure("faults injected, failed flushes", static_cast<double>(failedFlushes.size()));
 }
 
-// ---- the file size limit of the process (RLIMIT_FSIZE) ---------------------------
-
-// Saves in a child process whose file size limit is `limit` bytes. Answers
-// "saved", the reason the save failed for, or how the child ended otherwise.
-std::string saveUnderSizeLimit(const OpenedCopy& copy, const DatedPhoto& photo, rlim_t limit) {
-  const std::string tooLarge = errnoText(EFBIG);
-  const pid_t pid = ::fork();
-  if (pid == 0) {
-    std::signal(SIGXFSZ, SIG_IGN);  // EFBIG instead of a killed process
-    const rlimit rl{limit, limit};
-    ::setrlimit(RLIMIT_FSIZE, &rl);
-    const auto result = InPlaceWriter::writePatches(copy.path, copy.opened, photo.patches);
-    ::_exit(result.ok ? 0 : result.reason == tooLarge ? 1 : 2);
-  }
-  int status = -1;
-  ::waitpid(pid, &status, 0);
-  const int code = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-  return code == 0 ? "saved" : code == 1 ? tooLarge : "another failure (" + std::to_string(status) + ")";
-}
-
+// Saves in a child process whose file size limit (RLIMIT_FSIZE) is below, at
+// and past the run: at 0, the run's start, inside it, one byte short, its end
+// and the file's size.
 TEST(SaveFaults, AFileSizeLimitBelowTheDatesFailsTheSaveAndKeepsTheFile) {
   LUMTEST_REQUIRE_REAL_DATA();
   int faults = 0;
-  for (const DatedPhoto* each : reltest::photosForFaults()) {
-    const DatedPhoto& photo = *each;
-    const auto [first, end] = runOf(photo);
-    for (const rlim_t limit : std::vector<rlim_t>{0, first, first + 10, end - 1, end, photo.bytes.size()}) {
-      SCOPED_TRACE(photo.name + " limit " + std::to_string(limit));
-      ScratchFolder folder;
-      const OpenedCopy copy = openCopy(folder, photo);
+  for (const DatedPhoto* photo : reltest::photosForFaults()) {
+    const auto [first, end] = runOf(*photo);
+    for (const rlim_t limit : {rlim_t{0}, first, first + 10, end - 1, end, rlim_t{photo->bytes.size()}}) {
+      SCOPED_TRACE(photo->name + " limit " + std::to_string(limit));
+      const Copy copy(*photo);
       const bool below = limit < end;
       faults += below;
-      EXPECT_EQ(saveUnderSizeLimit(copy, photo, limit), below ? errnoText(EFBIG) : "saved");
-      EXPECT_EQ(reltest::stateOf(reltest::readAll(copy.path), photo), below ? "as opened" : "as intended");
+      const pid_t pid = ::fork();
+      if (pid == 0) {
+        std::signal(SIGXFSZ, SIG_IGN);  // EFBIG instead of a killed process
+        const rlimit rl{limit, limit};
+        ::setrlimit(RLIMIT_FSIZE, &rl);
+        const auto result = InPlaceWriter::writePatches(copy.path, copy.opened, photo->patches);
+        ::_exit(result.ok ? 0 : result.reason == errnoText(EFBIG) ? 1 : 2);
+      }
+      int status = -1;
+      ::waitpid(pid, &status, 0);
+      EXPECT_TRUE(WIFEXITED(status)) << status;
+      EXPECT_EQ(WEXITSTATUS(status), below ? 1 : 0) << "0: saved, 1: too large, 2: another failure";
+      EXPECT_EQ(reltest::stateOf(reltest::readAll(copy.path), *photo), below ? "as opened" : "as intended");
     }
   }
-  reportFaults(faults);
+  reltest::reportFigure("faults injected, file size limit", faults);
 }
 
 }  // namespace
