@@ -89,13 +89,12 @@ json exiftoolDates(const std::filesystem::path& folder) {
 TEST(ShiftConformance, RealFilesShiftForwardAndBack) {
   LUMTEST_REQUIRE_REAL_DATA();
   if (std::system("exiftool -ver >/dev/null 2>&1") != 0) GTEST_SKIP() << "exiftool not installed";
-  const std::filesystem::path source = *lumtest::realDataDir();
   TempFolder folder;
   std::vector<RealFile> files;
   for (const std::string& name : lumtest::realFileNames()) {
     const json& design = lumtest::expectedFor(name)["design"];
     if (!design.value("editable", false)) continue;
-    files.push_back({name, design, lumtest::readFile(source / name)});
+    files.push_back({name, design, lumtest::readFile(*lumtest::realDataDir() / name)});
     writeBytes(folder / name, files.back().bytes);
     ::chmod((folder / name).c_str(), 0644);
   }
@@ -104,8 +103,7 @@ TEST(ShiftConformance, RealFilesShiftForwardAndBack) {
   // 1. Forward: only the 19 bytes of kept dates change, and a date of all
   //    zeros (a camera's unknown date) keeps even those without holding the
   //    batch back; exiftool reads the shifted dates.
-  const std::string forward = "shift --hours 1 --minutes 2 --seconds 3 " + shellQuoted(folder.path().string());
-  CliRun r = runCli(forward, "TZ=America/New_York");
+  CliRun r = runCli("shift --hours 1 --minutes 2 --seconds 3 " + shellQuoted(folder.path().string()), "TZ=America/New_York");
   ASSERT_EQ(r.status, 0) << r.out;
   const json read = exiftoolDates(folder.path());
   int comparedDates = 0, zeroDates = 0;

@@ -63,16 +63,16 @@ TEST(IPTCIIMWalk, ExtendedDatasetStartsOneByteEarlyAndAdvancesBySizeWord) {
 
 TEST(IPTCIIMEncoding, CodedCharacterSetChoosesUTF8OnlyForEscPercentG) {
   const Bytes cafe{'C', 'a', 'f', 0xC3, 0xA9};  // "Café" in UTF-8
-  const std::string roman = "Caf\xE2\x88\x9A\xC2\xA9";  // its bytes read as Mac OS Roman
+  const std::string asRoman = "Caf\xE2\x88\x9A\xC2\xA9";  // its bytes read as Mac OS Roman
   const std::tuple<Bytes, orb::RecordEncoding, std::string> cases[] = {
-      {{0x1B, 0x25, 0x47}, orb::RecordEncoding::UTF8, "Caf\xC3\xA9"}, {{}, orb::RecordEncoding::MacOSRoman, roman},
-      {{0x1B, 0x2D, 0x41}, orb::RecordEncoding::MacOSRoman, roman},
-      {{0x1B, 0x25, 0x47, 0x20}, orb::RecordEncoding::MacOSRoman, roman}};
+      {{0x1B, 0x25, 0x47}, orb::RecordEncoding::UTF8, "Caf\xC3\xA9"}, {{}, orb::RecordEncoding::MacOSRoman, asRoman},
+      {{0x1B, 0x2D, 0x41}, orb::RecordEncoding::MacOSRoman, asRoman},
+      {{0x1B, 0x25, 0x47, 0x20}, orb::RecordEncoding::MacOSRoman, asRoman}};
   for (const auto& [charset, encoding, shown] : cases) {
     auto iim = walk((charset.empty() ? Bytes{} : dataSet(1, 90, charset)) + dataSet(2, 5, cafe));
     EXPECT_EQ(iim->encodingForRecFrom2To6(), encoding) << charset.size();
     EXPECT_EQ(iim->dataSets().back()->stringValue(), shown) << charset.size();
-    EXPECT_EQ(iim->dataSets().back()->value(), roman) << charset.size();  // value always reads Mac OS Roman
+    EXPECT_EQ(iim->dataSets().back()->value(), asRoman) << charset.size();  // value always reads Mac OS Roman
   }
 
   const OrbIIMDataSet roman(2, 5, "Caf\xC3\xA9", orb::RecordEncoding::MacOSRoman);
