@@ -26,16 +26,8 @@ const std::string kZero = "0000:00:00 00:00:00";
 // and nothing else; disabled, nothing changes. Either way the sheet resets.
 TEST(CTISheet, OKDoesWhatThePreviewShows) {
   ensureApplication();
-  struct YearTyped {
-    DateTargets::Index which;
-    const char* year;
-    bool linked;
-  };
-  struct Interval {
-    int mode;
-    Sheet::Field field;
-    long count;
-  };
+  struct YearTyped { DateTargets::Index which; const char* year; bool linked; };
+  struct Interval { int mode; Sheet::Field field; long count; };
   const Interval year{Sheet::kForwardTag, Sheet::Year, 1}, secondBack{Sheet::kBackwardTag, Sheet::Second, 1};
   const std::optional<std::string> no;
   const struct {
@@ -85,8 +77,7 @@ TEST(CTISheet, OKDoesWhatThePreviewShows) {
     for (const auto& t : DateTargets::kTargets) EXPECT_EQ(sheet.preview(t.index).text, c.previews[t.index]);
     ASSERT_EQ(sheet.validateOKButton(), c.ok);
     sheet.closeCTISheet(Sheet::kOKTag, &doc);
-    EXPECT_EQ(sheet.fieldValue(c.interval.field), 0);  // ready for its next use
-    EXPECT_EQ(sheet.dates(), Sheet::Dates{});
+    EXPECT_TRUE(sheet.fieldValue(c.interval.field) == 0 && sheet.dates() == Sheet::Dates{});  // ready for its next use
 
     EXPECT_EQ(doc.undoStack().count(), undoCount + (c.ok ? 1 : 0));
     for (const auto& t : DateTargets::kTargets) {

@@ -27,7 +27,7 @@ struct CliFixture : ::testing::Test {
   std::string q(const std::filesystem::path& p) const { return shellQuoted(p.string()); }
 };
 
-TEST_F(CliFixture, UsageErrorsChangeNothing) {
+TEST_F(CliFixture, UsageErrorsAndADryRunChangeNothing) {
   const auto before = readBytes(a);
   for (const std::string& args :
        {"shift " + q(a), "shift --years -1 " + q(a), "shift --years 10000 " + q(a), "shift --days 3652059 " + q(a),
@@ -37,6 +37,9 @@ TEST_F(CliFixture, UsageErrorsChangeNothing) {
     const CliRun r = runCli(args);
     EXPECT_EQ(r.status, 2) << args << "\n" << r.out;
   }
+  const CliRun r = runCli("set --to '2000:02:29 12:34:56' --dry-run " + q(a));
+  EXPECT_EQ(r.status, 0);
+  EXPECT_NE(r.out.find("DateTimeOriginal   2020:01:31 10:00:00 -> 2000:02:29 12:34:56"), std::string::npos) << r.out;
   EXPECT_EQ(readBytes(a), before);
 }
 
@@ -46,22 +49,11 @@ TEST_F(CliFixture, ADateLeavingTheRangeRefusesTheWholeBatch) {
   EXPECT_EQ(r.status, 2);
   EXPECT_NE(r.out.find(b.string() + ": DateTimeOriginal 0001:06:01 00:00:00"), std::string::npos) << r.out;
   EXPECT_EQ(r.out.find(a.string() + ":"), std::string::npos) << r.out;
-  EXPECT_EQ(readBytes(a), beforeA);
-  EXPECT_EQ(readBytes(b), beforeB);
-
+  EXPECT_TRUE(readBytes(a) == beforeA && readBytes(b) == beforeB);
   // Without the original date among the targets the batch goes through.
   const CliRun onlyEdited = runCli("shift --backward --years 1 --only edited,digitized " + q(folder.path()));
   EXPECT_EQ(onlyEdited.status, 0) << onlyEdited.out;
   EXPECT_EQ(datesOf(b), (DateTargets::Texts{"0001:06:01 00:00:00", std::nullopt, "2019:01:31 10:00:00"}));
-}
-
-TEST_F(CliFixture, DryRunPrintsAndWritesNothing) {
-  const auto beforeA = readBytes(a);
-  const CliRun r = runCli("set --to '2000:02:29 12:34:56' --dry-run " + q(a));
-  EXPECT_EQ(r.status, 0);
-  EXPECT_NE(r.out.find("DateTimeOriginal   2020:01:31 10:00:00 -> 2000:02:29 12:34:56"), std::string::npos)
-      << r.out;
-  EXPECT_EQ(readBytes(a), beforeA);
 }
 
 // Runs one after the other on a folder whose files hold the texts the
@@ -91,9 +83,8 @@ TEST_F(CliFixture, OnlyTheDatesACommandChangesAreWritten) {
   for (const auto& run : runs) {
     const CliRun r = runCli(run.args + " " + q(odd.path()), run.zone);
     ASSERT_EQ(r.status, 0) << run.args << "\n" << r.out;
-    for (std::size_t i = 0; i < files.size(); ++i) {
+    for (std::size_t i = 0; i < files.size(); ++i)
       EXPECT_EQ(readBytes(files[i]), photoBytes(run.expected[i])) << run.args << ": " << files[i];
-    }
   }
 }
 
@@ -113,11 +104,9 @@ TEST_F(CliFixture, WithoutItsCommandsPartTheProgramListsDatesAndEditsNothing) {
   const std::filesystem::path alone = bin.path() / "lumidate-cli";
   std::filesystem::copy_file(LUMIDATE_CLI, alone);
   const auto before = readBytes(a);
-
   const CliRun dates = runCopyOfCli(alone.string(), "dates " + q(a));
   EXPECT_EQ(dates.status, 0) << dates.out;
   EXPECT_NE(dates.out.find(kA), std::string::npos) << dates.out;
-
   for (const std::string args : {"shift --hours 1 ", "set --to '2000:02:29 12:34:56' ", "dates --help "}) {
     const CliRun r = runCopyOfCli(alone.string(), args + q(a));
     EXPECT_EQ(r.status, 1) << r.out;

@@ -43,12 +43,9 @@ TEST(DateRewrite, PatchesForTexts) {
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.name);
-    const auto patches = patchesForTexts(c.where, c.texts);
-    ASSERT_EQ(patches.size(), c.expected.size());
-    for (std::size_t i = 0; i < patches.size(); ++i) {
-      EXPECT_EQ(patches[i].position, c.expected[i].first);
-      EXPECT_EQ(patches[i].bytes, c.expected[i].second);
-    }
+    std::vector<std::pair<std::uint64_t, std::string>> got;
+    for (const auto& patch : patchesForTexts(c.where, c.texts)) got.emplace_back(patch.position, patch.bytes);
+    EXPECT_EQ(got, c.expected);
   }
 }
 

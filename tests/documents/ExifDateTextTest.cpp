@@ -57,8 +57,7 @@ const std::vector<Offsets> kOffsets{
 TEST(ExifDateText, ShiftAndRangeCheckAgreeWithTheGeneralPath) {
   for (const std::string& text : sampleTexts())
     for (const Offsets& o : kOffsets) {
-      SCOPED_TRACE(text + " by " + std::to_string(o[0]) + "/" + std::to_string(o[1]) + "/" + std::to_string(o[2]) +
-                   " " + std::to_string(o[3]) + ":" + std::to_string(o[4]) + ":" + std::to_string(o[5]));
+      SCOPED_TRACE(text + " by " + testing::PrintToString(o));
       EXPECT_EQ(DateTextRules::shiftedDateTimeString(text, o), generalShift(text, o));
       EXPECT_EQ(DateTextRules::shiftLeavesRange(text, o), generalLeavesRange(text, o));
     }
@@ -66,11 +65,8 @@ TEST(ExifDateText, ShiftAndRangeCheckAgreeWithTheGeneralPath) {
 
 TEST(ExifDateText, EveryTextReadHereIsADateToTheGeneralParser) {
   // Opening a file takes these texts as dates without asking the parser.
-  for (const std::string& text : sampleTexts()) {
-    if (ExifDateText::secondsOf(text)) {
-      EXPECT_TRUE(DateAdditions::dateWithDateTimeString(text)) << text;
-    }
-  }
+  for (const std::string& text : sampleTexts())
+    EXPECT_TRUE(!ExifDateText::secondsOf(text) || DateAdditions::dateWithDateTimeString(text)) << text;
 }
 
 TEST(ExifDateText, ReadsOnlyTheCommonFormWithFieldsInRange) {

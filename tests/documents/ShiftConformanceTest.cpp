@@ -25,11 +25,9 @@ const std::string kZeroDate = "0000:00:00 00:00:00";
 constexpr std::array<const char*, 3> kExiftoolNames{"ExifIFD:DateTimeOriginal", "ExifIFD:CreateDate", "IFD0:ModifyDate"};
 
 // The fields of a date text read by position (so "2004-07-13T21:23:44" too).
-std::optional<std::array<int, 6>> fieldsOf(const std::string& text) {
-  if (text.size() < 19) return std::nullopt;
-  std::array<int, 6> f{};
-  const int starts[6] = {0, 5, 8, 11, 14, 17}, widths[6] = {4, 2, 2, 2, 2, 2};
-  for (int i = 0; i < 6; ++i) f[static_cast<std::size_t>(i)] = std::stoi(text.substr(starts[i], widths[i]));
+std::array<int, 6> fieldsOf(const std::string& text) {
+  std::array<int, 6> f{std::stoi(text.substr(0, 4))};
+  for (std::size_t i = 1; i < 6; ++i) f[i] = std::stoi(text.substr(2 + 3 * i, 2));
   return f;
 }
 
@@ -37,27 +35,22 @@ std::optional<std::array<int, 6>> fieldsOf(const std::string& text) {
 // calendar (independent of the program's own arithmetic).
 std::string shifted(const std::string& text, long seconds) {
   using namespace std::chrono;
-  const auto f = *fieldsOf(text);
-  const sys_seconds t = sys_days(year(f[0]) / f[1] / f[2]) + hours(f[3]) + minutes(f[4]) + std::chrono::seconds(f[5]) +
-                        std::chrono::seconds(seconds);
-  const auto day = floor<days>(t);
-  const year_month_day ymd(day);
-  const hh_mm_ss<std::chrono::seconds> hms(t - day);
+  const auto f = fieldsOf(text);
+  const sys_seconds t = sys_days(year(f[0]) / f[1] / f[2]) + hours(f[3]) + minutes(f[4]) + std::chrono::seconds(f[5] + seconds);
+  const year_month_day ymd(floor<days>(t));
+  const hh_mm_ss<std::chrono::seconds> hms(t - floor<days>(t));
   char out[32];
   std::snprintf(out, sizeof out, "%04d:%02u:%02u %02ld:%02ld:%02ld", int(ymd.year()), unsigned(ymd.month()),
-                unsigned(ymd.day()), long(hms.hours().count()), long(hms.minutes().count()),
-                long(hms.seconds().count()));
+                unsigned(ymd.day()), long(hms.hours().count()), long(hms.minutes().count()), long(hms.seconds().count()));
   return out;
 }
 
 // "yyyy:MM:dd HH:mm:ss" of a real calendar date.
 bool isCanonical(const std::string& text) {
-  if (text.size() != 19 || text[4] != ':' || text[7] != ':' || text[10] != ' ' || text[13] != ':' || text[16] != ':')
-    return false;
+  if (text.size() != 19 || text.substr(4, 1) + text[7] + text[10] + text[13] + text[16] != ":: ::") return false;
   const auto f = fieldsOf(text);
-  const std::chrono::year_month_day ymd{std::chrono::year(f->at(0)), std::chrono::month(unsigned(f->at(1))),
-                                        std::chrono::day(unsigned(f->at(2)))};
-  return f->at(0) >= 1 && ymd.ok() && f->at(3) < 24 && f->at(4) < 60 && f->at(5) < 60;
+  const std::chrono::year_month_day ymd{std::chrono::year(f[0]), std::chrono::month(unsigned(f[1])), std::chrono::day(unsigned(f[2]))};
+  return f[0] >= 1 && ymd.ok() && f[3] < 24 && f[4] < 60 && f[5] < 60;
 }
 
 struct RealFile { std::string name; json design; std::vector<std::uint8_t> bytes; };
@@ -96,13 +89,12 @@ json exiftoolDates(const std::filesystem::path& folder) {
 TEST(ShiftConformance, RealFilesShiftForwardAndBack) {
   LUMTEST_REQUIRE_REAL_DATA();
   if (std::system("exiftool -ver >/dev/null 2>&1") != 0) GTEST_SKIP() << "exiftool not installed";
-  const std::filesystem::path source = *lumtest::realDataDir();
   TempFolder folder;
   std::vector<RealFile> files;
   for (const std::string& name : lumtest::realFileNames()) {
     const json& design = lumtest::expectedFor(name)["design"];
     if (!design.value("editable", false)) continue;
-    files.push_back({name, design, lumtest::readFile(source / name)});
+    files.push_back({name, design, lumtest::readFile(*lumtest::realDataDir() / name)});
     writeBytes(folder / name, files.back().bytes);
     ::chmod((folder / name).c_str(), 0644);
   }
@@ -111,11 +103,9 @@ TEST(ShiftConformance, RealFilesShiftForwardAndBack) {
   // 1. Forward: only the 19 bytes of kept dates change, and a date of all
   //    zeros (a camera's unknown date) keeps even those without holding the
   //    batch back; exiftool reads the shifted dates.
-  const std::string forward = "shift --hours 1 --minutes 2 --seconds 3 " + shellQuoted(folder.path().string());
-  CliRun r = runCli(forward, "TZ=America/New_York");
+  CliRun r = runCli("shift --hours 1 --minutes 2 --seconds 3 " + shellQuoted(folder.path().string()), "TZ=America/New_York");
   ASSERT_EQ(r.status, 0) << r.out;
   const json read = exiftoolDates(folder.path());
-  ASSERT_TRUE(read.is_array());
   int comparedDates = 0, zeroDates = 0;
   for (const RealFile& f : files) {
     SCOPED_TRACE(f.name);
@@ -160,19 +150,14 @@ TEST(ShiftConformance, RealFilesShiftForwardAndBack) {
   for (const RealFile& f : files) {
     SCOPED_TRACE(f.name);
     const auto now = lumtest::readFile(folder / f.name);
+    ASSERT_EQ(now.size(), f.bytes.size());
     const std::set<std::size_t> rewritten = datePositions(f.design, true);
-    if (rewritten.empty()) {
-      EXPECT_EQ(now, f.bytes);
-      ++canonicalFiles;
-      continue;
-    }
+    canonicalFiles += rewritten.empty();
     for (std::size_t at : differences(f.bytes, now)) EXPECT_TRUE(rewritten.count(at)) << "byte " << at;
     for (const char* date : kDates) {
       if (f.design[date].is_null() || isCanonical(f.design[date].get<std::string>())) continue;
-      const std::size_t offset = f.design["date_offsets"][date].get<std::size_t>();
-      EXPECT_EQ(std::string(now.begin() + static_cast<std::ptrdiff_t>(offset),
-                            now.begin() + static_cast<std::ptrdiff_t>(offset + 19)),
-                f.design[date] == kZeroDate ? kZeroDate : shifted(f.design[date].get<std::string>(), 0));
+      const auto at = now.begin() + f.design["date_offsets"][date].get<std::ptrdiff_t>();
+      EXPECT_EQ(std::string(at, at + 19), f.design[date] == kZeroDate ? kZeroDate : shifted(f.design[date].get<std::string>(), 0));
     }
   }
   EXPECT_GT(canonicalFiles, 40);

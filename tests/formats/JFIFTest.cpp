@@ -26,13 +26,10 @@ TEST(JFIFRecord, FieldsLandAtTheirOffsets) {
   jfif.setYDensity(300);
   const Bytes out = serialise(jfif, 18);
   EXPECT_EQ(Bytes(out.begin() + 9, out.begin() + 16), (Bytes{0x01, 0x01, 0x01, 0x01, 0x2C, 0x01, 0x2C}));
-  EXPECT_EQ(jfif.stringJFIFVersion(), "1.01");
-  EXPECT_EQ(jfif.stringJFIFUnit(), "Dots per inch");
-  EXPECT_EQ(jfif.stringJFIFDensityX(), "300");
+  EXPECT_EQ(jfif.stringJFIFVersion() + " " + jfif.stringJFIFUnit() + " " + jfif.stringJFIFDensityX(), "1.01 Dots per inch 300");
   jfif.setVersion({1, 10});
   jfif.setUnit(3);
-  EXPECT_EQ(jfif.stringJFIFVersion(), "1.10");
-  EXPECT_EQ(jfif.stringJFIFUnit(), "No Units");
+  EXPECT_EQ(jfif.stringJFIFVersion() + " " + jfif.stringJFIFUnit(), "1.10 No Units");
 }
 
 TEST(JFIFRecord, KeysTakeTheLowBits) {
@@ -59,9 +56,9 @@ TEST(JFIFRecord, ThumbnailAndGuards) {
   EXPECT_EQ(Bytes(out.begin() + 18, out.end()), pixels);
 
   // Buffer smaller than the segment, or a size below 18: nothing written.
-  EXPECT_EQ(serialise(jfif, 20), Bytes(20, 0xAA));
+  const Bytes tooSmall = serialise(jfif, 20);
   jfif.setSize(10);
-  EXPECT_EQ(serialise(jfif, 20), Bytes(20, 0xAA));
+  EXPECT_TRUE(tooSmall == Bytes(20, 0xAA) && serialise(jfif, 20) == Bytes(20, 0xAA));
   // A size beyond the thumbnail: the missing bytes are zeros.
   jfif.setSize(18 + 8);
   const Bytes longer = serialise(jfif, 26);

@@ -22,31 +22,24 @@ const std::string kHeader = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
 const std::string kDoctype =
     "<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" \"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n";
 
+// Elements the writer does not know leave their tabs behind.
 TEST(PListText, DocumentWithDictKeyAndString) {
   const auto doc = parse(kHeader + kDoctype +
                          "<plist version=\"1.0\" extra=\"dropped\"><dict><key>Name</key><string>a &lt; b</string>"
-                         "<key>On</key><true/><array><false/></array></dict></plist>");
+                         "<key>On</key><true/><array><false/></array><key>n</key><integer>5</integer></dict></plist>");
   ASSERT_TRUE(doc);
   EXPECT_EQ(PListUtility::XMLStringForPList(doc.get()),
             kHeader + kDoctype +
                 "<plist version=\"1.0\">\n<dict>\n\t<key>Name</key>\n\t<string>a < b</string>\n\t<key>On</key>\n"
-                "\t<true/>\n\t<array>\n\t\t<false/>\n\t</array>\n</dict>\n</plist>");
-}
-
-TEST(PListText, UnknownElementsLeaveTheirTabsBehind) {
-  const auto doc = parse(kHeader + kDoctype +
-                         "<plist version=\"1.0\"><dict><key>n</key><integer>5</integer></dict></plist>");
-  EXPECT_EQ(PListUtility::XMLStringForPList(doc.get()),
-            kHeader + kDoctype + "<plist version=\"1.0\">\n<dict>\n\t<key>n</key>\n\t</dict>\n</plist>");
+                "\t<true/>\n\t<array>\n\t\t<false/>\n\t</array>\n\t<key>n</key>\n\t</dict>\n</plist>");
 }
 
 TEST(PListText, EmptyWithoutDTDOrRootAttributes) {
   const auto noDTD = parse(kHeader + "<plist version=\"1.0\"><dict/></plist>");
-  EXPECT_EQ(PListUtility::XMLStringForPList(noDTD.get()), "");
-  EXPECT_FALSE(PListUtility::XMLDataForPList(noDTD.get()));
   const auto noAttributes = parse(kHeader + kDoctype + "<plist><dict/></plist>");
-  EXPECT_EQ(PListUtility::XMLStringForPList(noAttributes.get()), "");
-  EXPECT_EQ(PListUtility::XMLStringForPList(nullptr), "");
+  EXPECT_EQ(PListUtility::XMLStringForPList(noDTD.get()) + PListUtility::XMLStringForPList(noAttributes.get()) +
+                PListUtility::XMLStringForPList(nullptr), "");
+  EXPECT_FALSE(PListUtility::XMLDataForPList(noDTD.get()));
   // The closing tag is always </plist>, whatever the root is called.
   const auto other = parse(kHeader + "<!DOCTYPE root>\n<root a=\"1\"/>");
   EXPECT_EQ(PListUtility::XMLStringForPList(other.get()), kHeader + "<!DOCTYPE root>\n<root a=\"1\">\n</plist>");

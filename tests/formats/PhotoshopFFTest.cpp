@@ -28,31 +28,22 @@ std::vector<std::uint16_t> ids(const OrbPhotoshopFF& ff) {
 }
 
 TEST(PhotoshopAPP13, ChecksMarkerAndIdentifierAndHonoursBothLengths) {
+  const auto read = [](const Bytes& b, std::size_t n = 0) {
+    return OrbPhotoshopFF::photoshopFFWithAPP13SegmentPtr(orb::ByteView(b.data(), n ? n : b.size()));
+  };
   const Bytes odd = block(0x0404, "", {1, 2, 3, 4, 5});  // odd data: a pad byte follows
-  const Bytes oneBlock = app13(odd);
-  const auto one = OrbPhotoshopFF::photoshopFFWithAPP13SegmentPtr(orb::ByteView(oneBlock));
+  const auto one = read(app13(odd));
   ASSERT_TRUE(one);
   EXPECT_EQ(one->IRBs()[0].name(), std::nullopt);  // an empty name is no name
   EXPECT_EQ(one->data(), odd);
-
-  Bytes segment = app13(block(1028, "", {1, 2}) + block(1005, "", Bytes(16, 0)));
-  Bytes wrongMarker = segment;
+  const Bytes segment = app13(block(1028, "", {1, 2}) + block(1005, "", Bytes(16, 0)));
+  Bytes wrongMarker = segment, wrongId = segment, shortLength = segment;
   wrongMarker[1] = 0xEC;
-  EXPECT_FALSE(OrbPhotoshopFF::photoshopFFWithAPP13SegmentPtr(orb::ByteView(wrongMarker)));
-  Bytes wrongId = segment;
   wrongId[17] = ' ';  // the identifier's NUL
-  EXPECT_FALSE(OrbPhotoshopFF::photoshopFFWithAPP13SegmentPtr(orb::ByteView(wrongId)));
-  EXPECT_FALSE(OrbPhotoshopFF::photoshopFFWithAPP13SegmentPtr(orb::ByteView(segment.data(), 10)));
-
-  // The declared length ends the blocks before the second one.
-  Bytes shortLength = segment;
-  shortLength[2] = 0;
-  shortLength[3] = 16 + 14;
-  EXPECT_EQ(ids(*OrbPhotoshopFF::photoshopFFWithAPP13SegmentPtr(orb::ByteView(shortLength))),
-            (std::vector<std::uint16_t>{1028}));
-  // Fewer bytes available than declared: the available bytes win.
-  const auto cut = OrbPhotoshopFF::photoshopFFWithAPP13SegmentPtr(orb::ByteView(segment.data(), 18 + 14 + 10));
-  EXPECT_EQ(ids(*cut), (std::vector<std::uint16_t>{1028}));
+  shortLength[3] = 16 + 14;  // the declared length ends the blocks before the second one
+  EXPECT_FALSE(read(wrongMarker) || read(wrongId) || read(segment, 10));
+  EXPECT_EQ(ids(*read(shortLength)), (std::vector<std::uint16_t>{1028}));
+  EXPECT_EQ(ids(*read(segment, 18 + 14 + 10)), (std::vector<std::uint16_t>{1028}));  // fewer bytes than declared
 }
 
 TEST(PhotoshopWalk, StopRulesKeepBlocksBeforeTheBrokenOne) {
@@ -94,8 +85,7 @@ TEST(PhotoshopList, ThumbnailPrefers1036AndFollowsSorting) {
   const Bytes header(28, 7);
   OrbPhotoshopFF ff = walk(block(1033, "", header + Bytes{1}) + block(1036, "", header + Bytes{2, 3}));
   ASSERT_TRUE(ff.thumbIRB());
-  EXPECT_EQ(ff.thumbIRB()->irbID(), 1036);
-  EXPECT_EQ(ff.thumbnailData(), (Bytes{2, 3}));
+  EXPECT_EQ(ff.thumbnailData(), (Bytes{2, 3}));  // 1036's, after its 28-byte header
 
   ff.addImageResourceBlockWithSignature(0x3842494D, 1000, std::nullopt, Bytes{1});
   ff.addImageResourceBlockWithSignature(0x3842494D, 0, std::nullopt, Bytes{1});  // refused
@@ -116,26 +106,19 @@ TEST(PhotoshopList, ThumbnailPrefers1036AndFollowsSorting) {
   EXPECT_FALSE(walk(block(1005, "", Bytes(16, 0))).thumbnailData());
 }
 
-TEST(PhotoshopList, ReplaceRemoveAndCopy) {
-  OrbPhotoshopFF ff = walk(block(1005, "", Bytes(16, 0)) + block(1028, "", {1}) + block(1028, "", {2}));
-  ff.replaceIRB(OrbImageResourceBlock(0, 1028, "new", Bytes{3}));
+TEST(PhotoshopList, ReplaceRemoveAndIPTCFromBlock1028) {
+  const Bytes iptc{0x1C, 2, 5, 0, 4, 'T', 'e', 's', 't'};
+  OrbPhotoshopFF ff = walk(block(1005, "", Bytes(16, 0)) + block(1028, "", iptc) + block(1028, "", {2}));
+  ASSERT_TRUE(ff.iptcIIM());
+  EXPECT_EQ(ff.iptcIIM()->dataSets()[0]->stringValue(), "Test");
+  EXPECT_EQ(OrbPhotoshopFF::iptcIIMFromIRB(*ff.imageResourceBlockWithIRBID(1005)), nullptr);
+  ff.replaceIRB(OrbImageResourceBlock(0, 1028, "new", Bytes{3}));  // the first of the id only
   EXPECT_EQ(ff.IRBs()[1].name(), "new");
   EXPECT_EQ(*ff.IRBs()[2].dataValue(), Bytes{2});
   ff.replaceIRB(OrbImageResourceBlock(0, 2000, std::nullopt, Bytes{3}));  // no such id
-  EXPECT_EQ(ff.IRBs().size(), 3u);
   ff.rmoveIRBWithID(1028);
   ASSERT_EQ(ff.IRBs().size(), 2u);
   EXPECT_EQ(*ff.IRBs()[1].dataValue(), Bytes{2});
-}
-
-TEST(PhotoshopList, IPTCComesOnlyFromBlock1028) {
-  const Bytes iptc{0x1C, 2, 5, 0, 4, 'T', 'e', 's', 't'};
-  const OrbPhotoshopFF ff = walk(block(1028, "", iptc) + block(1005, "", Bytes(16, 0)));
-  const auto iim = ff.iptcIIM();
-  ASSERT_TRUE(iim);
-  ASSERT_EQ(iim->dataSets().size(), 1u);
-  EXPECT_EQ(iim->dataSets()[0]->stringValue(), "Test");
-  EXPECT_EQ(OrbPhotoshopFF::iptcIIMFromIRB(*ff.imageResourceBlockWithIRBID(1005)), nullptr);
   EXPECT_EQ(walk(block(1005, "", Bytes(16, 0))).iptcIIM(), nullptr);
 }
 
@@ -193,49 +176,27 @@ Bytes tiffWithRecords(std::uint32_t photoshopCount) {
 
 std::unique_ptr<OrbTiff> parse(const Bytes& file) { return OrbTiff::exifWithPtr(orb::ByteView(file), nullptr, file.size()); }
 
-TEST(TiffRecords, ReadsBothRecordsOfIFD0) {
+TEST(TiffRecords, ReadSetAndRemoveTheRecordsOfIFD0) {
   const Bytes file = tiffWithRecords(static_cast<std::uint32_t>(kBlocks.size()));
   const auto tiff = parse(file);
-  ASSERT_TRUE(tiff);
-  const auto photoshop = photoshopFF(*tiff);
-  ASSERT_TRUE(photoshop);
-  ASSERT_EQ(photoshop->IRBs().size(), 2u);
-  EXPECT_EQ(photoshop->data(), kBlocks);
-  const auto iim = iptcIIM(*tiff);
-  ASSERT_TRUE(iim);
-  ASSERT_EQ(iim->dataSets().size(), 2u);
-  EXPECT_EQ(iim->dataSets()[1]->stringValue(), "abc");
-}
+  ASSERT_TRUE(tiff && photoshopFF(*tiff) && iptcIIM(*tiff));
+  EXPECT_EQ(photoshopFF(*tiff)->data(), kBlocks);
+  ASSERT_EQ(iptcIIM(*tiff)->dataSets().size(), 2u);
+  EXPECT_EQ(iptcIIM(*tiff)->dataSets()[1]->stringValue(), "abc");
+  const auto none = parse(Bytes{'M', 'M', 0, 42} + be32(8) + be16(0) + be32(0));
+  EXPECT_FALSE(photoshopFF(*none) || iptcIIM(*none));
 
-TEST(TiffRecords, MissingEntriesGiveNothing) {
-  const Bytes file = Bytes{'M', 'M', 0, 42} + be32(8) + be16(0) + be32(0);
-  const auto tiff = parse(file);
-  ASSERT_TRUE(tiff);
-  EXPECT_FALSE(photoshopFF(*tiff));
-  EXPECT_EQ(iptcIIM(*tiff), nullptr);
-}
-
-TEST(TiffRecords, SetPhotoshopWritesCountAndBytesOrRemovesTheEntry) {
-  const auto tiff = parse(tiffWithRecords(static_cast<std::uint32_t>(kBlocks.size())));
-  ASSERT_TRUE(tiff);
   OrbPhotoshopFF changed = *photoshopFF(*tiff);
   changed.rmoveIRBWithID(1005);
   setPhotoshopFF(*tiff, &changed);
-  const OrbIFDEntry* entry = tiff->entryWithIFDTag(0x8649, kTIFFIFDID);
-  ASSERT_TRUE(entry);
-  EXPECT_EQ(entry->dataCount(), changed.data().size());
+  ASSERT_TRUE(tiff->entryWithIFDTag(0x8649, kTIFFIFDID));
+  EXPECT_EQ(tiff->entryWithIFDTag(0x8649, kTIFFIFDID)->dataCount(), changed.data().size());
   EXPECT_EQ(photoshopFF(*tiff)->data(), changed.data());
-
   setPhotoshopFF(*tiff, nullptr);
   EXPECT_EQ(tiff->entryWithIFDTag(0x8649, kTIFFIFDID), nullptr);
-  EXPECT_FALSE(photoshopFF(*tiff));
-
-  // An empty record removes too; a record on a structure without the entry
-  // makes it.
-  setPhotoshopFF(*tiff, &changed);
+  setPhotoshopFF(*tiff, &changed);  // made again where there is no entry
   ASSERT_TRUE(photoshopFF(*tiff));
-  EXPECT_EQ(photoshopFF(*tiff)->IRBs().size(), 1u);
-  const OrbPhotoshopFF empty;
+  const OrbPhotoshopFF empty;  // an empty record removes too
   setPhotoshopFF(*tiff, &empty);
   EXPECT_FALSE(photoshopFF(*tiff));
 }

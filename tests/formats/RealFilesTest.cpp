@@ -39,30 +39,17 @@ TEST(RealFiles, EveryFileAgreesWithItsExpectedRecord) {
       for (const auto& field : expected.at("ambiguous")) skipped.insert(field.is_string() ? field.get<std::string>() : "");
       // A listing holds no TIFF structure, only the texts it prints.
       if (holding == LumImageFile::Holding::DatesOnly) skipped.insert({"tiffHeaderLocation", "date_offsets"});
-      for (const auto& [key, value] : got.items()) {
-        if (!skipped.count(key)) {
-          EXPECT_EQ(value, expected.at(key)) << key;
-        }
-      }
+      for (const auto& [key, value] : got.items()) EXPECT_TRUE(skipped.count(key) || value == expected.at(key)) << key << ": " << value;
+      if (holding == LumImageFile::Holding::DatesOnly) continue;
+      // The thumbnail fits the table's box.
+      lumtest::PathOwner owner;
+      owner.path = *lumtest::realDataDir() / name;
+      file->setOwnerDocument(&owner);
+      file->makeThumbnail();
+      const auto thumb = file->thumbnail();
+      ASSERT_TRUE(thumb && thumb->isConsistent());
+      EXPECT_TRUE(thumb->width <= 150 && thumb->height <= 150) << thumb->width << "x" << thumb->height;
     }
-  }
-}
-
-TEST(RealFiles, ThumbnailsFitTheBox) {
-  LUMTEST_REQUIRE_REAL_DATA();
-  for (const std::string& name : lumtest::realFileNames()) {
-    SCOPED_TRACE(name);
-    lumtest::PathOwner owner;
-    owner.path = *lumtest::realDataDir() / name;
-    const auto file = LumImageFile::imageFileWithURL(owner.path, nullptr);
-    if (!file) continue;
-    file->setOwnerDocument(&owner);
-    file->makeThumbnail();
-    const auto thumb = file->thumbnail();
-    ASSERT_TRUE(thumb);
-    EXPECT_LE(thumb->width, 150);
-    EXPECT_LE(thumb->height, 150);
-    EXPECT_TRUE(thumb->isConsistent());
   }
 }
 
@@ -83,9 +70,9 @@ TEST(RealFiles, CutFilesOpenOrFailCleanly) {
         EXPECT_TRUE(error.code == -1 || error.code == -2) << n;
         continue;
       }
+      // A kept date always lies inside the bytes.
       for (const LumDateField field : {LumDateField::DateTimeOriginal, LumDateField::DateTimeDigitized,
                                        LumDateField::DateTime}) {
-        // A kept date always lies inside the bytes.
         const auto offset = file->dateValueOffset(field);
         if (file->originalString(field) && offset) {
           EXPECT_LE(*offset + 19, n) << n;

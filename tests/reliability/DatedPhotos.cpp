@@ -23,8 +23,8 @@ ScratchFolder::~ScratchFolder() {
   std::error_code ignored;
   // Give back write permission everywhere first (tests make folders read-only).
   ::chmod(path_.c_str(), 0700);
-  for (auto it = std::filesystem::recursive_directory_iterator(path_, ignored);
-       it != std::filesystem::recursive_directory_iterator(); it.increment(ignored))
+  for (auto it = std::filesystem::recursive_directory_iterator(path_, ignored); it != std::filesystem::recursive_directory_iterator();
+       it.increment(ignored))
     if (it->is_directory(ignored) && !it->is_symlink(ignored)) ::chmod(it->path().c_str(), 0700);
   std::filesystem::remove_all(path_, ignored);
 }
@@ -97,8 +97,7 @@ std::string stateOf(const std::vector<std::uint8_t>& now, const DatedPhoto& phot
   if (now == photo.intended) return "as intended";
   if (now.size() != photo.bytes.size()) return "MIXED (size " + std::to_string(now.size()) + ")";
   std::size_t differ = 0;
-  for (std::size_t i = 0; i < now.size(); ++i)
-    if (now[i] != photo.bytes[i] && now[i] != photo.intended[i]) ++differ;
+  for (std::size_t i = 0; i < now.size(); ++i) differ += now[i] != photo.bytes[i] && now[i] != photo.intended[i];
   return "MIXED (" + std::to_string(differ) + " bytes differ from both)";
 }
 

@@ -31,23 +31,17 @@ int waitFor(pid_t pid) {
   return status;
 }
 
-struct FileState {
-  std::vector<std::uint8_t> before;    // as the run found it
-  std::vector<std::uint8_t> intended;  // as the run means to leave it
-};
-
 TEST(KillDuringSave, EveryFileIsAsBeforeOrAsIntendedAfterEachKill) {
   ASSERT_TRUE(fs::exists(LUMIDATE_CLI_PATH)) << "lumidate-cli is not built at " << LUMIDATE_CLI_PATH;
   const int fileCount = reltest::countFromEnvironment("LUMIDATE_KILL_FILES", 200);
   const int kills = reltest::countFromEnvironment("LUMIDATE_KILLS", 5);
   reltest::ScratchFolder folder;
   const auto paths = reltest::writeSmallPhotos(folder.path(), fileCount);
-  std::vector<FileState> files(paths.size());
+  // Each file as the run found it and as the run means to leave it.
+  std::vector<std::vector<std::uint8_t>> before(paths.size()), intended(paths.size());
   const auto refresh = [&] {
-    for (std::size_t i = 0; i < paths.size(); ++i) {
-      files[i].before = reltest::readAll(paths[i]);
-      files[i].intended = reltest::shiftedBytes(files[i].before, kOneDay);
-    }
+    for (std::size_t i = 0; i < paths.size(); ++i)
+      intended[i] = reltest::shiftedBytes(before[i] = reltest::readAll(paths[i]), kOneDay);
   };
 
   // One whole run first: it must change every file, and it says how long a
@@ -57,8 +51,7 @@ TEST(KillDuringSave, EveryFileIsAsBeforeOrAsIntendedAfterEachKill) {
   const int status = waitFor(reltest::startShiftByOneDay(folder.path()));
   const auto runTime = Clock::now() - start;
   ASSERT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "status " << status;
-  for (std::size_t i = 0; i < paths.size(); ++i)
-    ASSERT_EQ(reltest::readAll(paths[i]), files[i].intended) << paths[i];
+  for (std::size_t i = 0; i < paths.size(); ++i) ASSERT_EQ(reltest::readAll(paths[i]), intended[i]) << paths[i];
 
   std::mt19937 random(20240601);
   std::uniform_int_distribution<long> moment(0, std::chrono::duration_cast<std::chrono::microseconds>(runTime).count());
@@ -72,12 +65,9 @@ TEST(KillDuringSave, EveryFileIsAsBeforeOrAsIntendedAfterEachKill) {
     std::size_t changed = 0;
     for (std::size_t i = 0; i < paths.size(); ++i) {
       const std::vector<std::uint8_t> now = reltest::readAll(paths[i]);
-      if (now == files[i].intended) {
-        ++changed;
-      } else if (now != files[i].before) {
-        ++mixed;
-        ADD_FAILURE() << "kill " << k << " left " << paths[i] << " neither as before nor as intended";
-      }
+      changed += now == intended[i];
+      if (now != intended[i] && now != before[i])
+        ++mixed, ADD_FAILURE() << "kill " << k << " left " << paths[i] << " neither as before nor as intended";
     }
     if (changed > 0 && changed < paths.size()) ++killsMidSave;
   }

@@ -28,12 +28,10 @@ std::vector<std::uint8_t> smallDatedJpeg(int index) {
 
 std::vector<std::filesystem::path> writeSmallPhotos(const std::filesystem::path& folder, int count) {
   std::vector<std::filesystem::path> paths;
-  paths.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) {
     char name[32];
     std::snprintf(name, sizeof name, "img-%05d.jpg", i);
-    paths.push_back(folder / name);
-    writeAll(paths.back(), smallDatedJpeg(i));
+    writeAll(paths.emplace_back(folder / name), smallDatedJpeg(i));
   }
   return paths;
 }
