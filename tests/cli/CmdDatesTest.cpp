@@ -19,25 +19,23 @@ namespace {
 
 lumtest::CliRun runDates(const std::string& arguments) { return lumtest::runCliStdout("dates " + arguments); }
 
-TEST(CmdDates, JsonOverTheRealFilesMatchesTheExpectedRecords) {
+// Each file's dates are checked against its record by the real-file suite;
+// here the folder twice and one of its files again list each file once, and
+// a file that does not open gives its error alone.
+TEST(CmdDates, RealFilesAreListedOnceEachWithTheirDatesOrTheirError) {
   LUMTEST_REQUIRE_REAL_DATA();
   const fs::path dir = *lumtest::realDataDir();
-  // The folder twice and one of its files again: each file is listed once.
   const auto run = runDates("--json " + shellQuoted(dir) + " " + shellQuoted(dir) + " " + shellQuoted(dir / "canon-ixus-2001.jpg"));
-  EXPECT_EQ(run.status, 1);  // some real files do not open
+  EXPECT_EQ(run.status, 1);
   const json array = json::parse(run.out);
   ASSERT_EQ(array.size(), lumtest::realFileNames().size());
   for (const json& element : array) {
     const std::string name = fs::path(element.at("path").get<std::string>()).filename().string();
     const json& expected = lumtest::expectedFor(name).at("design");
-    json wanted = {{"path", element.at("path")}};
-    if (!expected.at("opens").get<bool>())
-      wanted["error"] = {{"domain", "LumErrorDomain"}, {"code", expected.at("error_code")}};
+    if (expected.at("opens").get<bool>())
+      EXPECT_EQ(element.at("DateTimeOriginal"), expected.at("DateTimeOriginal")) << name;
     else
-      for (const char* key : {"DateTimeOriginal", "DateTimeDigitized", "DateTime", "SubSecTimeOriginal",
-                              "SubSecTimeDigitized", "SubSecTime", "editable"})
-        wanted[key] = expected.at(key);
-    EXPECT_EQ(element, wanted) << name;
+      EXPECT_EQ(element, (json{{"path", element.at("path")}, {"error", {{"domain", "LumErrorDomain"}, {"code", expected.at("error_code")}}}})) << name;
   }
 }
 
