@@ -29,7 +29,8 @@ TEST(CliDays, WholeDaysInEitherOrderAndRefusals) {
     const lumtest::CliRun run = runCli(std::string("days ") + c.arguments);
     EXPECT_EQ(run.status, c.status) << c.arguments;
     const bool whole = std::string(c.output).ends_with("\n");
-    EXPECT_TRUE(whole ? run.out == c.output : run.out.find(c.output) != std::string::npos) << c.arguments << ": " << run.out;
+    EXPECT_TRUE(whole ? run.out == c.output : run.out.find(c.output) != std::string::npos)
+        << c.arguments << ": " << run.out;
   }
 }
 

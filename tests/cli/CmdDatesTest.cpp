@@ -25,7 +25,8 @@ lumtest::CliRun runDates(const std::string& arguments) { return lumtest::runCliS
 TEST(CmdDates, RealFilesAreListedOnceEachWithTheirDatesOrTheirError) {
   LUMTEST_REQUIRE_REAL_DATA();
   const fs::path dir = *lumtest::realDataDir();
-  const auto run = runDates("--json " + shellQuoted(dir) + " " + shellQuoted(dir) + " " + shellQuoted(dir / "canon-ixus-2001.jpg"));
+  const auto run = runDates("--json " + shellQuoted(dir) + " " + shellQuoted(dir) + " " +
+                            shellQuoted(dir / "canon-ixus-2001.jpg"));
   EXPECT_EQ(run.status, 1);
   const json array = json::parse(run.out);
   ASSERT_EQ(array.size(), lumtest::realFileNames().size());
@@ -35,7 +36,9 @@ TEST(CmdDates, RealFilesAreListedOnceEachWithTheirDatesOrTheirError) {
     if (expected.at("opens").get<bool>())
       EXPECT_EQ(element.at("DateTimeOriginal"), expected.at("DateTimeOriginal")) << name;
     else
-      EXPECT_EQ(element, (json{{"path", element.at("path")}, {"error", {{"domain", "LumErrorDomain"}, {"code", expected.at("error_code")}}}})) << name;
+      EXPECT_EQ(element, (json{{"path", element.at("path")},
+                               {"error", {{"domain", "LumErrorDomain"}, {"code", expected.at("error_code")}}}}))
+          << name;
   }
 }
 

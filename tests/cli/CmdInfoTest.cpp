@@ -44,7 +44,8 @@ TEST(CliInfo, RealFilesShowWhatOtherReadersFind) {
     EXPECT_EQ(trimmed(rowValue(file, "TIFF", "Make")), expected.at("Make"));
     EXPECT_EQ(trimmed(rowValue(file, "TIFF", "Model")), expected.at("Model"));
     const json& orientation = expected.at("Orientation");
-    EXPECT_EQ(rowValue(file, "TIFF", "Orientation"), orientation.is_null() ? json() : kOrientationWords.at(orientation.get<int>()));
+    EXPECT_EQ(rowValue(file, "TIFF", "Orientation"),
+              orientation.is_null() ? json() : kOrientationWords.at(orientation.get<int>()));
     // A GPS position closes with its signed decimal degrees: "... (-35.5)".
     for (const auto& [key, title] : {std::pair{"GPSLatitude", "GPS Latitude"}, {"GPSLongitude", "GPS Longitude"}}) {
       const json shown = rowValue(file, "GPS", title);
@@ -69,7 +70,8 @@ TEST(CliInfo, RealFilesShowWhatOtherReadersFind) {
 
 TEST(CliInfo, JsonListsEveryFileWithItsRowsOrItsError) {
   LUMTEST_REQUIRE_REAL_DATA();
-  const auto run = runInfo("--json " + realFile("flir-i7-jfif.jpg") + " " + realFile("broken-ifd0.tif") + " " + realFile("none.jpg"));
+  const auto run = runInfo("--json " + realFile("flir-i7-jfif.jpg") + " " + realFile("broken-ifd0.tif") + " " +
+                           realFile("none.jpg"));
   EXPECT_EQ(run.status, 1);
   const json out = json::parse(run.out);
   ASSERT_EQ(out.size(), 3u);

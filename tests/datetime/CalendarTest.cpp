@@ -27,10 +27,10 @@ TEST(CivilCalendar, DayNumbersRoundTripAcrossEras) {
 TEST(Builders, RollFieldsOverAndRefuseAbsurdOnes) {
   const TimeZone gmt = TimeZone::gmt();
   const std::pair<std::optional<Instant>, const char*> cases[] = {
-      {dateWithY(2019, 13, 1, 0, 0, 0, gmt), "2020:01:01 00:00:00"}, {dateWithY(2019, 3, 0, 0, 0, 0, gmt), "2019:02:28 00:00:00"},
-      {dateWithY(2020, 3, 0, 0, 0, 0, gmt), "2020:02:29 00:00:00"}, {dateWithY(2019, 3, 7, 24, 0, 0, gmt), "2019:03:08 00:00:00"},
+      {dateWithY(2019, 13, 1, gmt), "2020:01:01 00:00:00"}, {dateWithY(2019, 3, 0, gmt), "2019:02:28 00:00:00"},
+      {dateWithY(2020, 3, 0, gmt), "2020:02:29 00:00:00"}, {dateWithY(2019, -11, 1, gmt), "2018:01:01 00:00:00"},
+      {dateWithY(2019, 3, 7, 24, 0, 0, gmt), "2019:03:08 00:00:00"},
       {dateWithY(2019, 12, 31, 23, 59, 60, gmt), "2020:01:01 00:00:00"},
-      {dateWithY(2019, -11, 1, 0, 0, 0, gmt), "2018:01:01 00:00:00"},
       {dateWithY(2019, 1, 1, 0, 0, -1, gmt), "2018:12:31 23:59:59"},
       {dateWithY(1, 1, 1, 0, 0, -1, gmt), "0001:12:31 23:59:59"},     // into 1 BC, printed as its era year
       {dateWithY(-1, 12, 31, 23, 59, 60, gmt), "0001:01:01 00:00:00"},  // 1 BC rolls into 1 AD
@@ -103,7 +103,8 @@ TEST(DateByAdding, ClampsMonthEndsInUtc) {
     EXPECT_TRUE(!sum || bc == c.bc) << c.start;
   }
   const auto start = DateAdditions::dateWithDateTimeString("2019:03:07 09:05:30.25");
-  EXPECT_EQ(DateAdditions::dateByAddingWithYears(*start, 0, 0, 1, 0, 0, 0), (Instant{start->seconds + 86400, 250'000'000}));
+  EXPECT_EQ(DateAdditions::dateByAddingWithYears(*start, 0, 0, 1, 0, 0, 0),
+            (Instant{start->seconds + 86400, 250'000'000}));
 }
 
 }  // namespace

@@ -83,7 +83,8 @@ TEST_F(DatePicker, ShowsAnInstantAndBuildsItBack) {
   picker_.setValuesWithDateTimeValues({-44, 3, 15, 12, 0, 0, 0}, false);
   EXPECT_EQ(tiff(), "-0044:03:15 12:00:00");
   // Milliseconds are rounded from nanoseconds, not clamped to 999.
-  const std::pair<std::int32_t, long> rounding[] = {{123'456'789, 123}, {999'600'000, 1000}, {499'999, 0}, {500'000, 1}};
+  const std::pair<std::int32_t, long> rounding[] = {{123'456'789, 123}, {999'600'000, 1000}, {499'999, 0},
+                                                     {500'000, 1}};
   for (const auto& [nanoseconds, milliseconds] : rounding) {
     picker_.setDateValue(Instant{1'000'000'000, nanoseconds}, TimeZone::gmt());
     EXPECT_EQ(picker_.subSecond(), milliseconds) << nanoseconds;

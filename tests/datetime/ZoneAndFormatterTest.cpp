@@ -11,7 +11,8 @@ namespace {
 TEST(TimeZoneAdditions, FormatsOffsetsTruncatingSeconds) {
   const std::pair<long, const char*> cases[] = {{-34200, "-09:30"}, {0, "+00:00"}, {20700, "+05:45"}, {-59, "-00:00"},
                                                 {20759, "+05:45"}, {-43200, "-12:00"}, {50400, "+14:00"}};
-  for (const auto& [seconds, text] : cases) EXPECT_EQ(TimeZoneAdditions::stringTimeZoneForSecondsFromGMT(seconds), text);
+  for (const auto& [seconds, text] : cases)
+    EXPECT_EQ(TimeZoneAdditions::stringTimeZoneForSecondsFromGMT(seconds), text);
 }
 
 // Unreadable zone text falls back to the local zone (offset -1 in the table).
@@ -93,8 +94,10 @@ TEST(NumberFormatters, FixedPatternsRoundHalfToEven) {
       {"00", 7.0, "07"}, {"00", 0.5, "00"}, {"00", 1.5, "02"}, {"00", 2.5, "02"}, {"00", 59.7, "60"},
       {"00.00", 0.125, "00.12"}, {"00.00", 0.135, "00.14"}, {"00.00", 2.675, "02.68"}, {"00.00", 99.999, "100.00"},
       {"0000", 12345.0, "12345"}, {"0.0000000000", 1e-11, "0.0000000000"}, {"0.0000000000", 139.6917, "139.6917000000"},
-      {"00.00", -3.14159, "-03.14"}, {"00.00", -0.001, "-00.00"}, {"0.0000000000", 1.23456789012345e-5, "0.0000123457"}};
-  for (const auto& [pattern, value, text] : cases) EXPECT_EQ(OrbAdditions::stringWithFormat(pattern, value), text) << pattern << " " << value;
+      {"00.00", -3.14159, "-03.14"}, {"00.00", -0.001, "-00.00"},
+      {"0.0000000000", 1.23456789012345e-5, "0.0000123457"}};
+  for (const auto& [pattern, value, text] : cases)
+    EXPECT_EQ(OrbAdditions::stringWithFormat(pattern, value), text) << pattern << " " << value;
 }
 
 }  // namespace
