@@ -13,16 +13,9 @@ class ZoneGuard {
  public:
   explicit ZoneGuard(const char* zone) {
     if (const char* old = std::getenv("TZ")) previous_ = old;
-    setenv("TZ", zone, 1);
-    tzset();
+    setenv("TZ", zone, 1), tzset();
   }
-  ~ZoneGuard() {
-    if (previous_)
-      setenv("TZ", previous_->c_str(), 1);
-    else
-      unsetenv("TZ");
-    tzset();
-  }
+  ~ZoneGuard() { previous_ ? setenv("TZ", previous_->c_str(), 1) : unsetenv("TZ"), tzset(); }
   ZoneGuard(const ZoneGuard&) = delete;
   ZoneGuard& operator=(const ZoneGuard&) = delete;
 
