@@ -119,7 +119,7 @@ std::unique_ptr<LumImageFile> LumImageFile::open(const std::filesystem::path& ur
                                                  Opening how) {
   auto file = parse(url, std::move(expected), error, how);
   // A kept file reads its structure from here again when asked for it.
-  if (file && how.holding == Holding::Kept) file->openedAt_ = url;
+  if (file && how.holding == Holding::Kept) file->openedAt_ = url.native();
   return file;
 }
 
@@ -293,7 +293,7 @@ void LumImageFile::setTiff(std::shared_ptr<OrbTiff> tiff) {
 std::optional<std::filesystem::path> LumImageFile::pathToRead() const {
   if (auto url = fileURL()) return url;
   if (openedAt_.empty()) return std::nullopt;
-  return openedAt_;
+  return std::filesystem::path(openedAt_);
 }
 
 std::vector<std::string> LumImageFile::JFIFKeys() const {

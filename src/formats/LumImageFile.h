@@ -252,7 +252,9 @@ class LumImageFile {
   std::uint32_t flags_ = 0;
   Holding holding_ = Holding::Kept;
   Build build_ = Build::Structure;
-  std::filesystem::path openedAt_;  // empty for bytes from no file, and for a listing
+  // Empty for bytes from no file, and for a listing. Kept as its text: a
+  // path object also holds each of its components, some 300 bytes more.
+  std::string openedAt_;
 
   mutable std::mutex tiffMutex_;  // guards tiff_, built on first use
   mutable std::shared_ptr<OrbTiff> tiff_;
