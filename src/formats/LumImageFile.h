@@ -2,7 +2,7 @@
 // One opened photo file (JPEG with Exif, or TIFF): its JFIF fields, its
 // dates as they stood when it was opened and where their values lie, and the
 // file's identity at that moment. The full TIFF structure (an object per
-// entry, some 7 KB a photo) is built only when asked for.
+// entry, several KB a photo) is built only when asked for.
 //
 // A file is accepted by content, never by name: "II"/"MM" at offset 0 is a
 // TIFF, FF D8 a JPEG, and the decoder must accept the image's header. A JPEG
@@ -199,8 +199,6 @@ class LumImageFile {
   void setOperation(CancelFlag operation);
 
  private:
-  // Opens from reads of the file, each made only while the file is still
-  // the one stamped *expected when that is given.
   // What an open builds: the dates alone (the structure when the date scan
   // cannot give its texts, then let go), or, for tiff(), the structure,
   // without printing its console lines a second time.
@@ -209,6 +207,8 @@ class LumImageFile {
     Holding holding;
     Build build;
   };
+  // Opens from reads of the file, each made only while the file is still
+  // the one stamped *expected when that is given.
   static std::unique_ptr<LumImageFile> open(const std::filesystem::path& url, std::optional<lum::FileStamp> expected,
                                             LumError* error, Opening how);
   // The reads and the parse of open(), without noting where the file was.
