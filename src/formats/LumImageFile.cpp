@@ -54,6 +54,14 @@ std::optional<std::string> validDate(std::string_view text) {
   return cut;
 }
 
+// Where the structure's entry of a date keeps its value, when out of line.
+std::optional<std::uint64_t> valueOffsetIn(const OrbTiff& tiff, LumDateField field) {
+  const DateEntry e = dateEntry(field);
+  const OrbIFDEntry* entry = tiff.entryWithIFDTag(e.tag, e.ifdID);
+  if (!entry || entry->byteCount() <= 4) return std::nullopt;
+  return std::uint64_t{entry->data()} + tiff.tiffHeaderLocation();
+}
+
 std::optional<std::string> validDate(const OrbTiff& tiff, LumDateField field) {
   const DateEntry e = dateEntry(field);
   const OrbIFDEntry* entry = tiff.entryWithIFDTag(e.tag, e.ifdID);
@@ -73,6 +81,15 @@ std::optional<std::string> textOf(const ExifDateScan::Value& value) {
   return std::string(value.text);
 }
 
+void print(const std::vector<std::string>& lines) {
+  for (const std::string& line : lines) orb::logLine(line);
+}
+
+constexpr std::size_t indexOf(LumDateField field) { return static_cast<std::size_t>(field); }
+
+constexpr LumDateField kDateFields[] = {LumDateField::DateTimeOriginal, LumDateField::DateTimeDigitized,
+                                        LumDateField::DateTime};
+
 std::string nextIFDLine(std::uint32_t next, std::uint64_t maxLocation) {
   return "nextIFDLocation: (" + std::to_string(next) + ") maxLocation:(" + std::to_string(maxLocation) + ")";
 }
@@ -90,17 +107,26 @@ LumImageFile::~LumImageFile() {
 
 std::unique_ptr<LumImageFile> LumImageFile::imageFileWithURL(const std::filesystem::path& url, LumError* error,
                                                              Holding holding) {
-  return open(url, std::nullopt, error, holding);
+  return open(url, std::nullopt, error, {holding, Build::Dates});
 }
 
 std::unique_ptr<LumImageFile> LumImageFile::imageFileIfUnchanged(const std::filesystem::path& url,
                                                                  const lum::FileStamp& expected, LumError* error) {
-  return open(url, expected, error, Holding::Kept);
+  return open(url, expected, error, {Holding::Kept, Build::Dates});
 }
 
 std::unique_ptr<LumImageFile> LumImageFile::open(const std::filesystem::path& url,
                                                  std::optional<lum::FileStamp> expected, LumError* error,
-                                                 Holding holding) {
+                                                 Opening how) {
+  auto file = parse(url, std::move(expected), error, how);
+  // A kept file reads its structure from here again when asked for it.
+  if (file && how.holding == Holding::Kept) file->openedAt_ = url.native();
+  return file;
+}
+
+std::unique_ptr<LumImageFile> LumImageFile::parse(const std::filesystem::path& url,
+                                                  std::optional<lum::FileStamp> expected, LumError* error,
+                                                  Opening how) {
   lum::ReadFailure failure;
   const auto read = [&](std::size_t length) {
     return expected ? lum::FileData::readIfUnchanged(url, *expected, length, &failure)
@@ -108,19 +134,19 @@ std::unique_ptr<LumImageFile> LumImageFile::open(const std::filesystem::path& ur
   };
   for (const std::size_t length : kHeadBytes) {
     auto data = read(length);
-    if (!data || data->holdsWholeFile()) return fromWhole(std::move(data), failure, error, holding);
+    if (!data || data->holdsWholeFile()) return fromWhole(std::move(data), failure, error, how);
     // Later reads must see the same file as this one.
     expected = data->stampAsOpened();
     // A TIFF's directories may lie anywhere: it is read whole.
     if (ImageDecoder::kindOf(data->bytes()) != ImageDecoder::Kind::JPEG) break;
-    if (auto file = fromHead(data, holding)) return file;
+    if (auto file = fromHead(data, how)) return file;
   }
-  return fromWhole(read(lum::FileData::kWholeFile), failure, error, holding);
+  return fromWhole(read(lum::FileData::kWholeFile), failure, error, how);
 }
 
 std::unique_ptr<LumImageFile> LumImageFile::fromWhole(std::shared_ptr<const lum::FileData> data,
                                                       const lum::ReadFailure& failure, LumError* error,
-                                                      Holding holding) {
+                                                      Opening how) {
   if (!data || data->empty()) {
     if (error && !data)
       orb::logLine("LumImageFile - NSData error " + failure.reason + ", " + failure.description + ", " +
@@ -129,14 +155,18 @@ std::unique_ptr<LumImageFile> LumImageFile::fromWhole(std::shared_ptr<const lum:
     return nullptr;
   }
   auto file = std::make_unique<LumImageFile>();
-  file->holding_ = holding;
-  if (!file->searchImageDataAndMakeExifObject(data->bytes(), error)) return nullptr;
+  file->holding_ = how.holding;
+  file->build_ = how.build;
+  // The structure built again for tiff() printed its lines when opened.
+  std::vector<std::string> consoleLines;
+  const bool silent = how.build == Build::Structure;
+  if (!file->scan(data->bytes(), data->bytes().size(), error, silent ? &consoleLines : nullptr)) return nullptr;
   file->finishOpening(data);
   return file;
 }
 
 std::unique_ptr<LumImageFile> LumImageFile::fromHead(const std::shared_ptr<const lum::FileData>& head,
-                                                    Holding holding) {
+                                                    Opening how) {
   // Every read of the marker walk and of the TIFF structure goes through this
   // view, so a read it never refused lay inside the head and gave the bytes
   // the whole file holds there. The decoder's header check reads the bytes
@@ -146,13 +176,14 @@ std::unique_ptr<LumImageFile> LumImageFile::fromHead(const std::shared_ptr<const
   bool refused = false;
   const orb::ByteView bytes(head->bytes().data(), head->bytes().size(), &refused);
   auto file = std::make_unique<LumImageFile>();
-  file->holding_ = holding;
+  file->holding_ = how.holding;
+  file->build_ = how.build;
   // A failure here is not reported: the whole file gives the same one, or
   // opens when the head was too short to tell. Console lines wait for the
   // same reason: they are printed by the parse that is kept.
   std::vector<std::string> consoleLines;
   if (!file->scan(bytes, head->stampAsOpened()->size, nullptr, &consoleLines) || refused) return nullptr;
-  for (const std::string& line : consoleLines) orb::logLine(line);
+  if (how.build == Build::Dates) print(consoleLines);
   file->finishOpening(head);
   return file;
 }
@@ -163,6 +194,9 @@ void LumImageFile::finishOpening(const std::shared_ptr<const lum::FileData>& dat
   // writes take the header location from the TIFF structure instead.
   setTiffHeaderLocation(0);
   setEdit(!noDateTimes());
+  // The structure the date scan could not stand in for has given its texts
+  // and offsets; tiff() reads it again if it is ever wanted.
+  if (build_ == Build::Dates) tiff_.reset();
 }
 
 bool LumImageFile::searchImageDataAndMakeExifObject(orb::ByteView data, LumError* error) {
@@ -193,9 +227,9 @@ bool LumImageFile::scan(orb::ByteView data, std::uint64_t fileSize, LumError* er
     return false;
   }
   if (!headerLocation) return true;
-  // A file held for its dates alone is spared the structure's entry objects
-  // whenever the date scan gives what the structure would.
-  if (holding_ == Holding::DatesOnly && takeDates(data, *headerLocation, fileSize, consoleLines)) return true;
+  // An opened file is spared the structure's entry objects whenever the
+  // date scan gives what the structure would.
+  if (build_ == Build::Dates && takeDates(data, *headerLocation, fileSize, consoleLines)) return true;
   const std::uint64_t location = *headerLocation;
   tiff_ = OrbTiff::exifWithPtr(data, &location, fileSize, consoleLines);
   return true;
@@ -211,6 +245,13 @@ bool LumImageFile::takeDates(orb::ByteView data, std::uint64_t headerLocation, s
   subSecOriginal_ = textOf(dates[ExifDateScan::kSubSecTimeOriginal]);
   subSecDigitized_ = textOf(dates[ExifDateScan::kSubSecTimeDigitized]);
   subSec_ = textOf(dates[ExifDateScan::kSubSecTime]);
+  if (holding_ == Holding::Kept) {
+    const ExifDateScan::Field scanned[] = {ExifDateScan::kDateTimeOriginal, ExifDateScan::kDateTimeDigitized,
+                                           ExifDateScan::kDateTime};
+    for (const LumDateField field : kDateFields)
+      if (const auto offset = dates[scanned[indexOf(field)]].valueOffset)
+        dateOffsets_[indexOf(field)] = headerLocation + *offset;
+  }
   if (dates.nextIFDPastLimit) {
     const std::string line = nextIFDLine(*dates.nextIFDPastLimit, fileSize);
     if (consoleLines) consoleLines->push_back(line);
@@ -229,6 +270,31 @@ void LumImageFile::setImageData(const std::shared_ptr<const lum::FileData>& data
   subSecOriginal_ = textOf(*tiff_, kSubSecTimeOriginal, kExifIFDID);
   subSecDigitized_ = textOf(*tiff_, kSubSecTimeDigitized, kExifIFDID);
   subSec_ = textOf(*tiff_, kSubSecTime, kExifIFDID);
+  if (holding_ == Holding::Kept)
+    for (const LumDateField field : kDateFields) dateOffsets_[indexOf(field)] = valueOffsetIn(*tiff_, field);
+}
+
+std::shared_ptr<OrbTiff> LumImageFile::tiff() const {
+  std::lock_guard lock(tiffMutex_);
+  if (tiff_ || tiffRead_ || holding_ != Holding::Kept || !stamp_) return tiff_;
+  tiffRead_ = true;
+  // Read and parsed as the open did, so bounded the same way, and only from
+  // the file that was opened: one changed since gives no structure at all.
+  if (const auto path = pathToRead())
+    if (auto again = parse(*path, *stamp_, nullptr, {Holding::Kept, Build::Structure})) tiff_ = std::move(again->tiff_);
+  return tiff_;
+}
+
+void LumImageFile::setTiff(std::shared_ptr<OrbTiff> tiff) {
+  std::lock_guard lock(tiffMutex_);
+  tiff_ = std::move(tiff);
+  tiffRead_ = true;
+}
+
+std::optional<std::filesystem::path> LumImageFile::pathToRead() const {
+  if (auto url = fileURL()) return url;
+  if (openedAt_.empty()) return std::nullopt;
+  return std::filesystem::path(openedAt_);
 }
 
 std::vector<std::string> LumImageFile::JFIFKeys() const {
@@ -246,11 +312,7 @@ std::optional<std::string> LumImageFile::JFIFValue(std::string_view key) const {
 }
 
 std::optional<std::uint64_t> LumImageFile::dateValueOffset(LumDateField field) const {
-  if (!tiff_) return std::nullopt;
-  const DateEntry e = dateEntry(field);
-  const OrbIFDEntry* entry = tiff_->entryWithIFDTag(e.tag, e.ifdID);
-  if (!entry || entry->byteCount() <= 4) return std::nullopt;
-  return std::uint64_t{entry->data()} + tiff_->tiffHeaderLocation();
+  return dateOffsets_[indexOf(field)];
 }
 
 const std::optional<std::string>& LumImageFile::originalString(LumDateField field) const {

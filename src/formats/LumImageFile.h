@@ -1,7 +1,8 @@
 #pragma once
-// One opened photo file (JPEG with Exif, or TIFF): where its TIFF header
-// lies, the parsed TIFF structure, its JFIF fields, its dates as they stood
-// when it was opened, and the file's identity at that moment.
+// One opened photo file (JPEG with Exif, or TIFF): its JFIF fields, its
+// dates as they stood when it was opened and where their values lie, and the
+// file's identity at that moment. The full TIFF structure (an object per
+// entry, several KB a photo) is built only when asked for.
 //
 // A file is accepted by content, never by name: "II"/"MM" at offset 0 is a
 // TIFF, FF D8 a JPEG, and the decoder must accept the image's header. A JPEG
@@ -14,6 +15,7 @@
 // bounded by the bytes read; a cut or malformed file is taken as having
 // nothing there, never read past.
 
+#include <array>
 #include <atomic>
 #include <cstdint>
 #include <filesystem>
@@ -72,11 +74,12 @@ class LumImageFile {
   // from the first kHeadBytes[1]; only a file whose scan wanted more, and a
   // TIFF, whose directories may lie anywhere, are read whole.
   //
-  // Holding::DatesOnly is for a caller that reads the dates and lets the
-  // file go at once (listing a folder): the dates are read without building
-  // the TIFF structure wherever that gives the same texts; tiff() is then
-  // null and dateValueOffset() answers nothing. Holding::Kept (a document)
-  // builds the structure.
+  // Either way the dates are read without building the TIFF structure
+  // wherever that gives the same texts. Holding::DatesOnly is for a caller
+  // that reads the dates and lets the file go at once (listing a folder):
+  // tiff() is then null and dateValueOffset() answers nothing.
+  // Holding::Kept (a document) keeps where each date lies, and tiff()
+  // builds the structure from the file when first asked.
   enum class Holding { Kept, DatesOnly };
   static std::unique_ptr<LumImageFile> imageFileWithURL(const std::filesystem::path& url, LumError* error,
                                                         Holding holding = Holding::Kept);
@@ -98,7 +101,8 @@ class LumImageFile {
   LumImageFile& operator=(const LumImageFile&) = delete;
 
   // Classifies the bytes, walks the JPEG markers, checks that the image
-  // decodes, and builds the TIFF structure. False with *error (-1) when the
+  // decodes, and builds the TIFF structure (kept: the bytes come from no
+  // file that could be read again). False with *error (-1) when the
   // bytes are not an accepted image.
   bool searchImageDataAndMakeExifObject(orb::ByteView data, LumError* error);
 
@@ -113,8 +117,9 @@ class LumImageFile {
   void pSearchJFIF(orb::ByteView bytes, std::uint64_t* location, std::uint64_t fileSize);
 
   // Takes the identity of the file the bytes were read from (none for bytes
-  // that came from no file) and derives the six original strings from the
-  // current TIFF structure. The bytes themselves are not kept.
+  // that came from no file) and derives the six original strings and the
+  // dates' value offsets from the current TIFF structure. The bytes
+  // themselves are not kept.
   void setImageData(const std::shared_ptr<const lum::FileData>& data);
 
   // The file's identity as it was opened: what a save and every later read
@@ -132,12 +137,16 @@ class LumImageFile {
   // The value of one JFIF key, nullopt when absent.
   std::optional<std::string> JFIFValue(std::string_view key) const;
 
-  const std::shared_ptr<OrbTiff>& tiff() const { return tiff_; }
-  void setTiff(std::shared_ptr<OrbTiff> tiff) { tiff_ = std::move(tiff); }
+  // The full TIFF structure. A file opened from a path parses it on first
+  // use from the file read again, only while the file is still the one
+  // opened (nullptr when it changed or cannot be read); the answer is kept
+  // for later calls. Safe to call from any thread.
+  std::shared_ptr<OrbTiff> tiff() const;
+  void setTiff(std::shared_ptr<OrbTiff> tiff);
 
   // Absolute file offset of a date entry's value (value offset + the TIFF
-  // structure's header location): where a new date is written. Nullopt when
-  // the structure holds no such entry or its value is not out of line.
+  // header's location): where a new date is written. Nullopt when the
+  // structure holds no such entry or its value is not out of line.
   std::optional<std::uint64_t> dateValueOffset(LumDateField field) const;
 
   // The original strings as they stood at opening (dates: first 19
@@ -190,35 +199,49 @@ class LumImageFile {
   void setOperation(CancelFlag operation);
 
  private:
+  // What an open builds: the dates alone (the structure when the date scan
+  // cannot give its texts, then let go), or, for tiff(), the structure,
+  // without printing its console lines a second time.
+  enum class Build : std::uint8_t { Dates, Structure };
+  struct Opening {
+    Holding holding;
+    Build build;
+  };
   // Opens from reads of the file, each made only while the file is still
   // the one stamped *expected when that is given.
   static std::unique_ptr<LumImageFile> open(const std::filesystem::path& url, std::optional<lum::FileStamp> expected,
-                                            LumError* error, Holding holding);
+                                            LumError* error, Opening how);
+  // The reads and the parse of open(), without noting where the file was.
+  static std::unique_ptr<LumImageFile> parse(const std::filesystem::path& url,
+                                             std::optional<lum::FileStamp> expected, LumError* error, Opening how);
   // Opens from the whole file's bytes, or reports why there are none
   // (failure, or an empty file).
   static std::unique_ptr<LumImageFile> fromWhole(std::shared_ptr<const lum::FileData> data,
-                                                 const lum::ReadFailure& failure, LumError* error, Holding holding);
+                                                 const lum::ReadFailure& failure, LumError* error, Opening how);
   // Opens from the head of a JPEG when its scan provably found all it
   // needed there; nullptr otherwise.
-  static std::unique_ptr<LumImageFile> fromHead(const std::shared_ptr<const lum::FileData>& head, Holding holding);
+  static std::unique_ptr<LumImageFile> fromHead(const std::shared_ptr<const lum::FileData>& head, Opening how);
   // The work of searchImageDataAndMakeExifObject(), bounded by the size of
   // the whole file, which the bytes may only begin. Console lines of the
   // TIFF parse go to consoleLines when given (see OrbTiff::exifWithPtr).
   bool scan(orb::ByteView data, std::uint64_t fileSize, LumError* error,
             std::vector<std::string>* consoleLines = nullptr);
   void finishOpening(const std::shared_ptr<const lum::FileData>& data);
-  // Sets the six original strings straight from the bytes, for a file held
-  // for its dates only; false (nothing set) when that cannot give what the
-  // TIFF structure would.
+  // Sets the six original strings (and, for a kept file, where the dates
+  // lie) straight from the bytes; false (nothing set) when that cannot give
+  // what the TIFF structure would.
   bool takeDates(orb::ByteView data, std::uint64_t headerLocation, std::uint64_t fileSize,
                  std::vector<std::string>* consoleLines);
+  // The path the structure is read again from: the owner's, else the one
+  // the file was opened at.
+  std::optional<std::filesystem::path> pathToRead() const;
 
   std::optional<lum::FileStamp> stamp_;
   std::optional<LumRange> jfifSegmentRange_;
   std::optional<LumRange> exifSegmentRange_;
   std::uint64_t tiffHeaderLocation_ = 0;
   std::optional<JFIFDictionary> jfif_;
-  std::shared_ptr<OrbTiff> tiff_;
+  std::array<std::optional<std::uint64_t>, 3> dateOffsets_;  // by LumDateField
   std::optional<std::string> dateTimeOriginal_;
   std::optional<std::string> dateTimeDigitized_;
   std::optional<std::string> dateTime_;
@@ -228,6 +251,14 @@ class LumImageFile {
   LumImageFileOwner* owner_ = nullptr;
   std::uint32_t flags_ = 0;
   Holding holding_ = Holding::Kept;
+  Build build_ = Build::Structure;
+  // Empty for bytes from no file, and for a listing. Kept as its text: a
+  // path object also holds each of its components, some 300 bytes more.
+  std::string openedAt_;
+
+  mutable std::mutex tiffMutex_;  // guards tiff_, built on first use
+  mutable std::shared_ptr<OrbTiff> tiff_;
+  mutable bool tiffRead_ = false;  // tiff() tried the file once; its answer stands
 
   mutable std::mutex jobMutex_;  // guards thumbnail_ and operation_
   std::shared_ptr<const lum::Bitmap> thumbnail_;

@@ -55,12 +55,18 @@ TEST(LumImageFileOpen, JpegWithJfifAndExif) {
   const Bytes tiff = lumtest::exifTiff({{0x0132, nul("2021:02:03 04:05:06")}},
                                        {{0x9003, nul("2020:01:02 03:04:05")}, {0x9291, nul("  5")}});
   const Bytes bytes = JpegBuilder().jfif(1, 1).exif(tiff).build();
-  const auto o = lumtest::openBytes(bytes);
-  ASSERT_TRUE(o.file) << o.error.reason;
-  const LumImageFile& f = *o.file;
+  const lumtest::TempFile temp(bytes);
+  const auto opened = LumImageFile::imageFileWithURL(temp.path(), nullptr);
+  ASSERT_TRUE(opened);
+  const LumImageFile& f = *opened;
   EXPECT_EQ(f.tiffHeaderLocation(), 0u);  // cleared after the scan on purpose
   ASSERT_TRUE(f.tiff());
   EXPECT_EQ(f.tiff()->tiffHeaderLocation(), 30u);
+  // The structure is read from the file when asked for: one replaced since
+  // opening gives none, never the new file's.
+  const auto replaced = LumImageFile::imageFileWithURL(temp.path(), nullptr);
+  std::ofstream(temp.path(), std::ios::binary | std::ios::trunc) << std::string(bytes.begin(), bytes.end()) << 'x';
+  EXPECT_EQ(replaced->tiff(), nullptr);
   EXPECT_EQ(f.JFIFSegmentRange(), (LumRange{2, 18}));
   EXPECT_EQ(f.exifSegmentRange(), (LumRange{20, tiff.size() + 10}));  // marker, length, "Exif\0\0"
   EXPECT_EQ(f.originalDateTimeOriginalString(), "2020:01:02 03:04:05");
@@ -103,11 +109,12 @@ TEST(LumImageFileOpen, FilesWithoutDatesOpenNotEditable) {
        true},
   };
   for (const auto& c : cases) {
-    const auto o = lumtest::openBytes(c.bytes);
-    ASSERT_TRUE(o.file) << c.name;
-    EXPECT_EQ(o.file->tiff() != nullptr, c.hasTiff) << c.name;
-    EXPECT_TRUE(o.file->noDateTimes()) << c.name;
-    EXPECT_FALSE(o.file->isEdit()) << c.name;
+    const lumtest::TempFile temp(c.bytes);
+    const auto file = LumImageFile::imageFileWithURL(temp.path(), nullptr);
+    ASSERT_TRUE(file) << c.name;
+    EXPECT_EQ(file->tiff() != nullptr, c.hasTiff) << c.name;
+    EXPECT_TRUE(file->noDateTimes()) << c.name;
+    EXPECT_FALSE(file->isEdit()) << c.name;
   }
 }
 
