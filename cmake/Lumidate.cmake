@@ -60,6 +60,13 @@ function(lumidate_test name)
   add_executable(${name} ${T_SOURCES})
   target_link_libraries(${name} PRIVATE ${T_DEPS} lumidate_testsupport GTest::gtest GTest::gtest_main GTest::gmock)
   lumidate_warnings(${name})
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # Tests build photos by growing byte vectors from short literals. At -O3
+    # GCC 12 follows those inserts into libstdc++'s vector code and reports
+    # bounds it made up itself (GCC bug 107852); the program's own code keeps
+    # the warning.
+    target_compile_options(${name} PRIVATE -Wno-array-bounds -Wno-stringop-overflow)
+  endif()
   if(NOT T_IN_EVERY_ZONE)
     gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
     return()
