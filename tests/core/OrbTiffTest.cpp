@@ -86,9 +86,7 @@ TEST(OrbTiffChanges, LookupsCopiesAndRemovals) {
   EXPECT_NE(tiff->entryWithIFDTag(0x9003, kExifIFDID), nullptr);
   EXPECT_EQ(OrbTiff().mutableCopy()->IFDs(), nullptr);
 
-  OrbIFDEntry entry;
-  entry.setIFDID(kTIFFIFDID);
-  entry.setIFDTag(kMake);
+  OrbIFDEntry entry = *OrbIFDEntry::initWithEndian(kOrbBigEndian, kMake, kTIFFIFDID);
   entry.setASCIIString("Other");
   tiff->setEntry(entry, 2);  // appends two maps
   ASSERT_EQ(tiff->IFDs()->size(), 3u);
