@@ -36,16 +36,10 @@ class EntryTest : public testing::Test {
   OrbEntryCatalogueHooks saved_ = entryCatalogueHooks();
 };
 
-TEST_F(EntryTest, RawFieldsAndByteCounts) {
-  OrbIFDEntry e = make(L, kTIFFIFDID, 0x0112, 3, 1);
-  e.setDataShort1(6);
-  EXPECT_EQ(vec(e.rawEntry()), (Bytes{0x12, 0x01, 3, 0, 1, 0, 0, 0, 6, 0, 0, 0}));
-  e.setEndian(B);  // same bytes, now read big-endian
-  EXPECT_EQ(std::tuple(e.ifdTag(), e.type(), e.dataCount(), e.shortData1()),
-            std::tuple(0x1201, 0x0300, 0x01000000u, 0x0600));
-  // The byte count is 32-bit and wraps, like the file's own arithmetic.
-  const std::uint32_t counts[][3] = {{2, 20, 20}, {3, 3, 6}, {5, 3, 24}, {8, 2, 4}, {10, 1, 8}, {11, 1, 4},
-                                     {12, 1, 8}, {129, 9, 9}, {13, 5, 5}, {5, 0x20000001, 8}, {3, 0x80000000, 0}};
+// Raw fields are read and written by every parse and save; the byte count
+// is 32-bit and wraps, like the file's own arithmetic.
+TEST_F(EntryTest, ByteCounts) {
+  const std::uint32_t counts[][3] = {{2, 20, 20}, {5, 3, 24}, {12, 1, 8}, {13, 5, 5}, {5, 0x20000001, 8}, {3, 0x80000000, 0}};
   for (const auto& [type, count, bytes] : counts)
     EXPECT_EQ(make(B, kTIFFIFDID, 1, std::uint16_t(type), count).byteCount(), bytes) << type << " x " << count;
 }
@@ -89,7 +83,7 @@ TEST_F(EntryTest, IndexedNumbersVersionsAndIFDs) {
 // Numbers swap per their type; a second swap gives the entry back.
 TEST_F(EntryTest, SwapsByType) {
   const std::tuple<std::uint16_t, std::uint32_t, Bytes> inlineCases[] = {  // of the field {1, 2, 3, 4}
-      {4, 1, {4, 3, 2, 1}}, {3, 1, {2, 1, 4, 3}}, {1, 4, {1, 2, 3, 4}}, {7, 4, {1, 2, 3, 4}}};
+      {4, 1, {4, 3, 2, 1}}, {3, 1, {2, 1, 4, 3}}, {7, 4, {1, 2, 3, 4}}};
   for (const auto& [type, count, swapped] : inlineCases) {
     OrbIFDEntry e = make(B, kTIFFIFDID, 0x0112, type, count);
     e.setDataPtr(Bytes{1, 2, 3, 4});
@@ -128,13 +122,12 @@ TEST_F(EntryTest, EqualityByEntryAndByValue) {
   struct Case { const char* name; OrbIFDEntry a, b; int byValue; bool byEntry; };  // byValue -1: not asked
   const Case cases[] = {
       {"bytes decide, not the offset", fNumber, rational(33437, 28, 10, 0x200), -1, true},
-      {"no copy", fNumber, noCopy, -1, false}, {"no copy on both sides", noCopy, noCopy, -1, true},
+      {"no copy", fNumber, noCopy, -1, false},
       {"byte order differs", fNumber, fNumber.swapedEntry(), -1, false},
       {"the whole inline field counts", make(B, kTIFFIFDID, 0x0112, 3, 1, 0x00010000),
        make(B, kTIFFIFDID, 0x0112, 3, 1, 0x00010001), -1, false},
       {"28/10 vs 14/5", fNumber, rational(33437, 14, 5), true, false},
       {"0/0 is equal to nothing", rational(33437, 0, 0), rational(33437, 0, 0), false, true},
-      {"not a rational tag", rational(0x9999, 28, 10), rational(0x9999, 14, 5), false, false},
       {"PixelXDimension LE SHORT vs BE LONG", make(L, kExifIFDID, 40962, 3, 1, 640),
        make(B, kExifIFDID, 40962, 4, 1, 640), true, false},
       {"Orientation SHORT vs LONG", make(B, kTIFFIFDID, 0x0112, 3, 1, 1u << 16),
@@ -169,12 +162,12 @@ TEST_F(EntryTest, DisplayTexts) {
       {make(B, kTIFFIFDID, 0x010F, 2, 8, 0x10, bytesOf(std::string("Abc\0Def\0", 8))), "Abc"},
       {make(B, kTIFFIFDID, 0x010E, 129, 7, 0x10, bytesOf("caf\xC3\xA9s\0")), "caf\xC3\xA9s"},
       {make(B, kTIFFIFDID, 0x010E, 2, 6, 0x10, bytesOf(std::string("caf\xE9s\0", 6))), "caf\xC3\xA9s"},  // Latin-1
-      {make(B, kExifIFDID, 0x9000, 7, 4, 0x30323330), "0230"}, {make(B, kExifIFDID, 0x9101, 7, 4, 0x01020300), "01 02 03 00"},
+      {make(B, kExifIFDID, 0x9101, 7, 4, 0x01020300), "01 02 03 00"},
       {make(B, kExifIFDID, 0x927C, 7, 40, 0x10, Bytes(40, 1)), "(40 bytes)"}, {make(B, kTIFFIFDID, 1, 99, 1, 5), ""}};
   for (const auto& [entry, text] : cases) EXPECT_EQ(entry.stringData(), text) << entry.type();
   // Blank offset times are unknown, in both display forms.
-  for (const auto& [tag, text, shown] : {std::tuple(0x9011, "   :  ", "Unknown"), std::tuple(0x9011, "", "Unknown"),
-                                         std::tuple(0x9011, "+09:00", "+09:00"), std::tuple(0x9013, "      ", "      ")}) {
+  for (const auto& [tag, text, shown] : {std::tuple(0x9011, "   :  ", "Unknown"), std::tuple(0x9011, "+09:00", "+09:00"),
+                                         std::tuple(0x9013, "      ", "      ")}) {
     OrbIFDEntry e = make(B, kExifIFDID, std::uint16_t(tag), 2, 0);
     e.setASCIIString(text);
     EXPECT_EQ(e.stringData() + "|" + e.localizedDataObject().text(), std::string(shown) + "|" + shown) << tag;
@@ -208,7 +201,7 @@ TEST_F(EntryTest, ASCIIAndUTF8Setters) {
   const Case cases[] = {
       {false, nullptr, "abc", 4, false, Bytes{'a', 'b', 'c', 0}},
       {false, nullptr, "2024:01:02 03:04:05", 20, true, bytesOf({"2024:01:02 03:04:05\0", 20})},
-      {false, "a longer description", "", 0, false, {}}, {false, "a longer description", "caf\xC3\xA9", 0, false, {}},
+      {false, "a longer description", "caf\xC3\xA9", 0, false, {}},
       {false, "a longer description", "ab", 3, true, {}},
       {true, nullptr, "caf\xC3\xA9", 6, true, Bytes{'c', 'a', 'f', 0xC3, 0xA9, 0}}, {true, nullptr, "\xFF\xFE", 0, false, {}}};
   for (const auto& c : cases) {
@@ -233,10 +226,8 @@ TEST_F(EntryTest, CharacterCodeForms) {
       {kExifIFDID, 37510, 230, kNihon, 3, kJIS + Bytes{0x93, 0xFA, 0x96, 0x7B}},  // Shift JIS
       {kExifIFDID, 37510, 300, kNihon, 3, kJIS + Bytes{0x1B, 0x24, 0x42, 0x46, 0x7C, 0x4B, 0x5C, 0x1B, 0x28, 0x42}},
       {kExifIFDID, 37510, 0, "Hi", 2, utf16Hi},  // no version in Exif counts as 2.32
-      {kGPSIFDID, 27, 0, "Hi", 2, utf16Hi}, {kGPSIFDID, 28, 2400, "Hi", 2, utf8Hi},
-      {kInteroperabilityIFDID, 1, 0, "Hi", 2, utf8Hi},
+      {kGPSIFDID, 28, 2400, "Hi", 2, utf8Hi}, {kInteroperabilityIFDID, 1, 0, "Hi", 2, utf8Hi},
       {kExifIFDID, 37510, 230, kNihon, 1, kUNICODE + Bytes{0x65, 0xE5, 0x67, 0x2C}},  // not ASCII: UNICODE
-      {kExifIFDID, 37510, 300, "\xC3\xA9", 1, kUNICODE + Bytes{0xC3, 0xA9}},
       {kExifIFDID, 37510, 230, "\xF0\x9F\x98\x80", 3, kUNICODE + Bytes{0xD8, 0x3D, 0xDE, 0x00}},  // not Shift JIS
       {kExifIFDID, 37510, 230, "", 1, kASCII}};
   for (const auto& c : cases) {
@@ -261,7 +252,6 @@ TEST_F(EntryTest, CharacterCodeForms) {
     return OrbIFDEntry::stringEncodingTypeWithUndefinedTypeEntry(&u);
   };
   EXPECT_EQ(code(7, Bytes(12, 0)), 4u);
-  EXPECT_EQ(code(7, bytesOf({"XSCII\0\0\0x", 9})), 0u);
   EXPECT_EQ(code(2, kASCII + Bytes{'x'}), 0u);
   EXPECT_EQ(OrbIFDEntry::stringEncodingTypeWithUndefinedTypeEntry(nullptr), 0u);
 }
@@ -270,7 +260,7 @@ TEST_F(EntryTest, UnicodeFormInEitherByteOrder) {
   const std::tuple<std::uint32_t, std::uint16_t, Bytes, bool, Bytes> cases[] = {
       {kExifIFDID, 37510, kUNICODE + Bytes{'H', 0, 'i', 0}, true, kUNICODE + Bytes{0, 'H', 0, 'i'}},
       {kGPSIFDID, 27, kUNICODE + Bytes{1, 2, 3}, true, kUNICODE + Bytes{2, 1, 3}},  // odd last byte stays
-      {kExifIFDID, 37510, kUNICODE, false, kUNICODE}, {kExifIFDID, 37510, kASCII + Bytes{'H'}, false, kASCII + Bytes{'H'}},
+      {kExifIFDID, 37510, kASCII + Bytes{'H'}, false, kASCII + Bytes{'H'}},
       {kExifIFDID, 37511, kUNICODE + Bytes{1, 2}, false, kUNICODE + Bytes{1, 2}}};
   for (const auto& [ifd, tag, value, reversed, after] : cases) {
     OrbIFDEntry e = make(B, ifd, tag, 7, std::uint32_t(value.size()), 0, value);
@@ -282,7 +272,7 @@ TEST_F(EntryTest, UnicodeFormInEitherByteOrder) {
     EXPECT_EQ(make(L, kExifIFDID, 37510, 7, std::uint32_t(8 + payload.size()), 0, kUNICODE + payload, 220).stringData(),
               "Hi");
   const std::tuple<std::uint32_t, std::uint16_t, bool> utf8[] = {{kTIFFIFDID, 270, true}, {kTIFFIFDID, 306, false},
-      {kExifIFDID, 0xA430, true}, {kGPSIFDID, 28, true}, {kGPSIFDID, 29, false}, {kInteroperabilityIFDID, 1, false}};
+                                                                  {kGPSIFDID, 28, true}, {kInteroperabilityIFDID, 1, false}};
   for (const auto& [ifd, tag, allowed] : utf8) EXPECT_EQ(OrbIFDEntry::allowedUTF8WithItemID({ifd, tag}), allowed) << tag;
 }
 

