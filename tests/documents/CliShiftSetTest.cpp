@@ -67,10 +67,8 @@ TEST_F(CliFixture, OnlyTheDatesACommandChangesAreWritten) {
   const std::array<std::filesystem::path, 3> files{writePhoto(odd, "z.jpg", {zero, zero, zero}),
                                                    writePhoto(odd, "l.jpg", {kA, leap, leap}),
                                                    writePhoto(odd, "s.jpg", {kA, sixty, sixty})};
-  const struct {
-    std::string args, zone;  // no result may depend on the machine's zone
-    std::array<PhotoDates, 3> expected;
-  } runs[] = {
+  // No result may depend on the machine's zone.
+  const struct { std::string args, zone; std::array<PhotoDates, 3> expected; } runs[] = {
       {"shift --hours 1 --only original", "TZ=America/New_York",
        {{{zero, zero, zero}, {"2020:01:31 11:00:00", leap, leap}, {"2020:01:31 11:00:00", sixty, sixty}}}},
       {"set --to '" + set + "' --only edited", "",
