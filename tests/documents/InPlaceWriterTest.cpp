@@ -27,8 +27,6 @@ const std::vector<std::uint8_t> kBefore = [] {
 
 fs::path writeBefore(const fs::path& file) { return doctest_support::writeBytes(file, kBefore), file; }
 
-std::string errnoText(int error) { return std::system_category().message(error); }
-
 std::vector<std::uint8_t> patched(const std::vector<BytePatch>& patches) {
   std::vector<std::uint8_t> bytes = kBefore;
   for (const BytePatch& p : patches) std::copy(p.bytes.begin(), p.bytes.end(), bytes.begin() + p.position);
@@ -89,7 +87,8 @@ TEST(InPlaceWriter, RefusesAFileThatIsNotTheOneOpenedAndLeavesItAlone) {
          copyKeepingTime(p, p.string() + ".o"), fs::remove(p), fs::create_symlink(p.string() + ".o", p);
        },
        kChangedOnDiskReason},
-      {"a folder", [](const fs::path& p) { fs::remove(p), fs::create_directory(p); }, errnoText(EISDIR)},
+      {"a folder", [](const fs::path& p) { fs::remove(p), fs::create_directory(p); },
+       std::system_category().message(EISDIR)},
       {"deleted", [](const fs::path& p) { fs::remove(p); }, kMissingReason},
       {"read-only", [](const fs::path& p) { ::chmod(p.c_str(), 0444); }, kReadOnlyReason},
       {"a date past the end", none, kBeyondEndReason, {{10, kDate}, {400 - 18, kDate}}},
