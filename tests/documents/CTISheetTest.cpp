@@ -9,7 +9,6 @@ using namespace doctest_support;
 using Sheet = LumCTISheet;
 using Ctl = OrbDatePicker::Control;
 using DateTargets::Digitized;
-using DateTargets::Edited;
 using DateTargets::Original;
 using Three = std::array<std::string, 3>;
 
