@@ -9,7 +9,6 @@ using namespace doctest_support;
 using Sheet = LumCTISheet;
 using Ctl = OrbDatePicker::Control;
 using DateTargets::Digitized;
-using DateTargets::Edited;
 using DateTargets::Original;
 using Three = std::array<std::string, 3>;
 
@@ -30,14 +29,9 @@ TEST(CTISheet, OKDoesWhatThePreviewShows) {
   struct Interval { int mode; Sheet::Field field; long count; };
   const Interval year{Sheet::kForwardTag, Sheet::Year, 1}, secondBack{Sheet::kBackwardTag, Sheet::Second, 1};
   const std::optional<std::string> no;
-  const struct {
-    PhotoDates file;
-    std::vector<YearTyped> steps;
-    Interval interval;
-    unsigned mask;
-    Three previews;  // "" where nothing is previewed
-    bool ok;
-  } cases[] = {
+  // previews: "" where nothing is previewed.
+  const struct { PhotoDates file; std::vector<YearTyped> steps; Interval interval; unsigned mask; Three previews;
+    bool ok; } cases[] = {
       {{"2020:01:31 07:08:09", no, no}, {}, {Sheet::kForwardTag, Sheet::Month, 1}, 7,
        {"2020:02:29 07:08:09", "", ""}, true},
       {{"0001:01:01 00:00:01", no, no}, {}, secondBack, 7, {"0001:01:01 00:00:00", "", ""}, true},

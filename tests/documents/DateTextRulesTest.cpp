@@ -4,41 +4,15 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
+#include "datetime/DateAdditions.h"
+#include "datetime/TimeZone.h"
+
 using namespace DateTextRules;
 
 namespace {
-
-constexpr Offsets kHour{0, 0, 0, 1, 0, 0}, kBackYear{-1, 0, 0, 0, 0, 0};
-
-TEST(DateTextRules, ShiftedTextIsTheSameInEveryZone) {
-  const struct {
-    const char* text;
-    Offsets offsets;
-    std::optional<std::string> expected;
-    bool leavesRange;
-  } cases[] = {
-      {"2021:03:14 01:30:00", kHour, "2021:03:14 02:30:00", false},  // a local DST gap in New York
-      {"2021:11:07 01:30:00", {0, 0, 1, 0, 0, 0}, "2021:11:08 01:30:00", false},
-      {"2024:01:31 10:00:00", {0, 1, 0, 0, 0, 0}, "2024:02:29 10:00:00", false},  // clamped to the month's end
-      {"2023:01:31 10:00:00", {0, -2, 0, 0, 0, 0}, "2022:11:30 10:00:00", false},
-      {"2020:02:29 23:59:59", {1, 0, 0, 0, 0, 1}, "2021:03:01 00:00:00", false},
-      {"2010:06:15 12:00:00", {0, 0, 0, -1, -2, -3}, "2010:06:15 10:57:57", false},
-      {"2019:02:29 10:00:00", kHour, "2019:03:01 11:00:00", false},  // rolled over, then shifted
-      {"2019:03:07 09:05:60", kHour, "2019:03:07 10:06:00", false},
-      {"0001:06:01 00:00:00", kBackYear, std::nullopt, true},
-      {"9999:12:31 23:59:59", {0, 0, 0, 0, 0, 1}, std::nullopt, true},
-      {"not a date", kHour, std::nullopt, false},
-      // The unknown date is passed over, whichever way the shift goes.
-      {"0000:00:00 00:00:00", kHour, std::nullopt, false},
-      {"0000:00:00 00:00:00", kBackYear, std::nullopt, false},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.text);
-    EXPECT_EQ(shiftedDateTimeString(std::string(c.text), c.offsets), c.expected);
-    EXPECT_EQ(shiftLeavesRange(std::string(c.text), c.offsets), c.leavesRange);
-  }
-  EXPECT_EQ(shiftedDateTimeString(std::nullopt, kHour), std::nullopt);
-}
 
 TEST(DateTextRules, NormalizedTypedText) {
   const std::pair<const char*, std::optional<std::string>> cases[] = {
@@ -56,6 +30,57 @@ TEST(DateTextRules, NormalizedTypedText) {
       {"", std::nullopt},
   };
   for (const auto& [typed, expected] : cases) EXPECT_EQ(normalizedDateTimeString(typed), expected) << typed;
+}
+
+// The quick path for common date texts must agree with the general date
+// parser and calendar arithmetic on every text and offset, including those
+// it hands back to the general path.
+// The shift through the general parser, formatter and calendar arithmetic.
+std::optional<std::string> generalShift(const std::string& text, const Offsets& o) {
+  const std::optional<Instant> date = DateAdditions::dateWithDateTimeString(text);
+  if (!date) return std::nullopt;
+  bool bc = false;
+  const auto shifted = DateAdditions::dateByAddingWithYears(*date, o[0], o[1], o[2], o[3], o[4], o[5], &bc);
+  if (!shifted || bc || DateAdditions::yearWithTimeZone(*shifted, TimeZone::gmt()) > 9999) return std::nullopt;
+  return DateAdditions::tiffDateString(*shifted);
+}
+
+bool generalLeavesRange(const std::string& text, const Offsets& o) {
+  if (text.empty()) return false;
+  const std::optional<Instant> date = DateAdditions::dateWithDateTimeString(text);
+  if (!date) return false;
+  const auto shifted = DateAdditions::dateByAddingWithYears(*date, o[0], o[1], o[2], o[3], o[4], o[5]);
+  return shifted && (*shifted < DateTextRules::kMiniDate || *shifted > DateTextRules::kMaxDate);
+}
+
+std::vector<std::string> sampleTexts() {
+  std::vector<std::string> texts{
+      "2020:02:29 12:00:00", "2021:02:29 12:00:00", "0000:01:01 00:00:00", "2020:13:01 00:00:00",
+      "2020:01:01 24:00:00", "2020:01:01 00:60:00", "2020:01:01 00:00:60", "2020-01-01 00:00:00",
+      "2020:01:01 00:00:00 ", "2020:01:01 0a:00:00", "2020:1:01 00:00:00",  "",
+      "2020:00:10 00:00:00", "2020:04:31 00:00:00", "    :  :     :  :  ", "2020:01:01T00:00:00"};
+  for (const char* year : {"0001", "0004", "0100", "1900", "1969", "1970", "2000", "2023", "2024", "9999"})
+    for (const char* monthDay : {"01:01", "01:31", "02:28", "02:29", "03:01", "04:30", "06:15", "12:31"})
+      for (const char* time : {"00:00:00", "12:34:56", "23:59:59"})
+        texts.push_back(std::string(year) + ":" + monthDay + " " + time);
+  return texts;
+}
+
+const std::vector<Offsets> kOffsets{
+    {0, 0, 0, 1, 0, 0},     {0, 0, 0, -1, 0, 0},   {0, 1, 0, 0, 0, 0},        {0, -1, 0, 0, 0, 0},
+    {1, 0, 0, 0, 0, 0},     {-1, 0, 0, 0, 0, 0},   {0, 0, 0, 0, 0, 1},        {0, 0, 0, 0, 0, -1},
+    {4, 1, 1, 1, 1, 1},     {0, 13, 0, 0, 0, 0},   {0, -25, 0, 0, 0, 0},      {-2023, 0, 0, 0, 0, 0},
+    {7976, 0, 0, 0, 0, 0},  {0, 0, 2920000, 0, 0, 0}, {0, 0, 0, -48, 90, -3601}, {99999, 0, 0, 0, 0, 0},
+    {-100000, 0, 0, 0, 0, 0}, {100001, 0, 0, 0, 0, 0}, {0, 0, 0, 0, 0, 4'000'000'000'000L}, {0, 0, -36600000, 0, 0, 0}};
+
+TEST(ExifDateText, ShiftAndRangeCheckAgreeWithTheGeneralPath) {
+  for (const std::string& text : sampleTexts())
+    for (const Offsets& o : kOffsets) {
+      SCOPED_TRACE(text + " by " + testing::PrintToString(o));
+      EXPECT_EQ(DateTextRules::shiftedDateTimeString(text, o), generalShift(text, o));
+      EXPECT_EQ(DateTextRules::shiftLeavesRange(text, o), generalLeavesRange(text, o));
+    }
+  EXPECT_EQ(DateTextRules::shiftedDateTimeString(std::nullopt, kOffsets[0]), std::nullopt);
 }
 
 }  // namespace

@@ -1,17 +1,14 @@
 #include "documents/InPlaceWriter.h"
 
 #include <gtest/gtest.h>
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <functional>
-#include <set>
 #include <system_error>
 
-#include "TempFiles.h"
-#include "documents/BatchFlush.h"
+#include "PhotoFiles.h"
 
 using namespace InPlaceWriter;
 using doctest_support::readBytes;
@@ -21,14 +18,14 @@ namespace fs = std::filesystem;
 namespace {
 
 const std::string kDate = "2024:01:02 03:04:05";
-const std::vector<std::uint8_t> kBefore = doctest_support::patternBytes(400);
+// Bytes that differ from position to position, so a misplaced write shows.
+const std::vector<std::uint8_t> kBefore = [] {
+  std::vector<std::uint8_t> bytes(400);
+  for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<std::uint8_t>((i * 7 + 3) & 0xFF);
+  return bytes;
+}();
 
-fs::path writeBefore(const fs::path& file) {
-  doctest_support::writeBytes(file, kBefore);
-  return file;
-}
-
-std::string errnoText(int error) { return std::system_category().message(error); }
+fs::path writeBefore(const fs::path& file) { return doctest_support::writeBytes(file, kBefore), file; }
 
 std::vector<std::uint8_t> patched(const std::vector<BytePatch>& patches) {
   std::vector<std::uint8_t> bytes = kBefore;
@@ -90,7 +87,8 @@ TEST(InPlaceWriter, RefusesAFileThatIsNotTheOneOpenedAndLeavesItAlone) {
          copyKeepingTime(p, p.string() + ".o"), fs::remove(p), fs::create_symlink(p.string() + ".o", p);
        },
        kChangedOnDiskReason},
-      {"a folder", [](const fs::path& p) { fs::remove(p), fs::create_directory(p); }, errnoText(EISDIR)},
+      {"a folder", [](const fs::path& p) { fs::remove(p), fs::create_directory(p); },
+       std::system_category().message(EISDIR)},
       {"deleted", [](const fs::path& p) { fs::remove(p); }, kMissingReason},
       {"read-only", [](const fs::path& p) { ::chmod(p.c_str(), 0444); }, kReadOnlyReason},
       {"a date past the end", none, kBeyondEndReason, {{10, kDate}, {400 - 18, kDate}}},
@@ -108,52 +106,6 @@ TEST(InPlaceWriter, RefusesAFileThatIsNotTheOneOpenedAndLeavesItAlone) {
     EXPECT_EQ(result.result.reason, c.reason);
     EXPECT_FALSE(result.file.isOpen());
     EXPECT_EQ(held(file), before);
-  }
-}
-
-// Files on two file systems (the test's folder and one in memory, when the
-// machine has that apart): one flush for each, and a failed one fails only its files.
-TEST(InPlaceWriter, ABatchIsFlushedOncePerFileSystemAndAFailedFlushCoversOnlyItsFiles) {
-  const auto deviceOf = [](const fs::path& p) {
-    struct stat st {};
-    return ::stat(p.c_str(), &st) == 0 ? st.st_dev : 0;
-  };
-  TempFolder disk;
-  struct MemoryFolder {
-    std::string path = "/dev/shm/lumdocs-XXXXXX";
-    bool made = ::mkdtemp(path.data()) != nullptr;
-    ~MemoryFolder() { if (made) fs::remove_all(path); }
-  } inMemory;
-  const fs::path memory = inMemory.made ? fs::path(inMemory.path) : disk.path();
-  const std::vector<fs::path> folders{disk.path(), memory, disk.path(), memory};
-  const std::set<std::uint64_t> devices{deviceOf(disk.path()), deviceOf(memory)};
-  const std::vector<BytePatch> patches{{40, kDate}};
-  for (const bool diskFails : {false, true}) {
-    SCOPED_TRACE(diskFails ? "the disk's flush fails" : "every flush works");
-    std::vector<OpenFile> written;
-    std::vector<int> fds;
-    for (std::size_t i = 0; i < folders.size(); ++i) {
-      const fs::path file = writeBefore(folders[i] / ("p" + std::to_string(i)));
-      UnflushedWrite w = writeWithoutFlush(file, *identityOfFile(file), patches);
-      ASSERT_TRUE(w.file.isOpen()) << w.result.reason;
-      fds.push_back(w.file.fd());
-      written.push_back(std::move(w.file));
-    }
-    std::multiset<std::uint64_t> flushed;
-    const std::vector<std::string> reasons = flushTogether(written, [&](int fd) {
-      struct stat st {};
-      ::fstat(fd, &st);
-      flushed.insert(st.st_dev);
-      return diskFails && st.st_dev == deviceOf(disk.path()) ? (errno = EIO, -1) : ::syncfs(fd);
-    });
-    EXPECT_EQ(flushed, std::multiset<std::uint64_t>(devices.begin(), devices.end()));
-    ASSERT_EQ(reasons.size(), folders.size());
-    for (std::size_t i = 0; i < folders.size(); ++i) {
-      EXPECT_EQ(reasons[i], diskFails && deviceOf(folders[i]) == deviceOf(disk.path()) ? errnoText(EIO) : "") << i;
-      // Written either way: only the bytes' way to the disk is in doubt.
-      EXPECT_EQ(readBytes(folders[i] / ("p" + std::to_string(i))), patched(patches));
-      EXPECT_EQ(::fcntl(fds[i], F_GETFD), -1) << "the flush left a descriptor open";
-    }
   }
 }
 

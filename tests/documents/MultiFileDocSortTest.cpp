@@ -82,37 +82,4 @@ TEST_F(SortFixture, EveryColumnAndCombinationGivesTheRowsOwnOrder) {
   }
 }
 
-TEST_F(SortFixture, NamesCompareWithoutCaseThenByWholePath) {
-  doc->tableViewSortDescriptorsDidChange({{"FileName", true}});
-  EXPECT_EQ(paths(rows(*doc), folder),
-            (std::vector<std::string>{"A.jpg", "sub/a.jpg", "b.jpg", "sub/B.jpg", "C.JPG", "d.jpg", "e.jpg"}));
-}
-
-TEST(FileNameOrder, PairsCompareAsQtCaseInsensitiveComparisonDoes) {
-  const TempFolder folder;
-  const std::vector<std::string> names{"a.jpg",  "B.jpg", "[x].jpg", "_x.jpg", "Z.jpg",  "z1.jpg", "~.jpg",
-                                       "é.jpg", "E.jpg", "Été.jpg", "ab.jpg", "AB.JPG", "a.jpeg", "0.jpg"};
-  std::vector<std::unique_ptr<LumFileItemDoc>> items;
-  for (const std::string& name : names) ASSERT_TRUE(items.emplace_back(openItem(writePhoto(folder, name, {}))));
-  for (std::size_t i = 0; i < names.size(); ++i)
-    for (std::size_t j = 0; j < names.size(); ++j) {
-      const int qt = QString::fromStdString(names[i]).compare(QString::fromStdString(names[j]), Qt::CaseInsensitive);
-      if (qt == 0) continue;  // same name but for case: the paths decide, tested above
-      const int mine = items[i]->compareForFileName(*items[j]);
-      EXPECT_TRUE(mine != 0 && (mine < 0) == (qt < 0)) << names[i] << " vs " << names[j] << ": " << mine;
-    }
-}
-
-TEST_F(SortFixture, EditedRowsFirstAndTheStateFollowsLaterChanges) {
-  doc->tableViewSortDescriptorsDidChange({{"Edited", true}});
-  EXPECT_EQ(paths(rows(*doc), folder),
-            (std::vector<std::string>{"sub/a.jpg", "C.JPG", "e.jpg", "A.jpg", "b.jpg", "sub/B.jpg", "d.jpg"}));
-  // A row put back to its file's text is no longer edited at the next sort.
-  doc->itemForURL(folder / "C.JPG")->setDateText(DateTargets::Edited, "2020:01:31 10:00:00");
-  // Descending turns the name order round too.
-  doc->tableViewSortDescriptorsDidChange({{"Edited", false}});
-  EXPECT_EQ(paths(rows(*doc), folder),
-            (std::vector<std::string>{"d.jpg", "C.JPG", "sub/B.jpg", "b.jpg", "A.jpg", "e.jpg", "sub/a.jpg"}));
-}
-
 }  // namespace

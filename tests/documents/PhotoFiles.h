@@ -1,19 +1,49 @@
 #pragma once
-// Small photo files with chosen dates, written into a scratch folder and
-// opened as rows of a multi-file document.
+// A scratch folder per test, small file helpers, and small photo files with
+// chosen dates opened as rows of a multi-file document.
 
 #include <QCoreApplication>
 
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "TempFiles.h"
 #include "documents/LumFileItemDoc.h"
 #include "support/JpegBuilder.h"
+#include "support/TestData.h"
 
 namespace doctest_support {
+
+class TempFolder {
+ public:
+  TempFolder() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "lumdocs-XXXXXX").string();
+    path_ = ::mkdtemp(pattern.data());
+  }
+  ~TempFolder() {
+    std::error_code ignored;
+    std::filesystem::permissions(path_, std::filesystem::perms::owner_all, ignored);
+    std::filesystem::remove_all(path_, ignored);
+  }
+  TempFolder(const TempFolder&) = delete;
+  TempFolder& operator=(const TempFolder&) = delete;
+  const std::filesystem::path& path() const { return path_; }
+  std::filesystem::path operator/(const std::string& name) const { return path_ / name; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+inline void writeBytes(const std::filesystem::path& path, const std::vector<std::uint8_t>& bytes) {
+  std::ofstream out(path, std::ios::binary | std::ios::trunc);
+  out.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+}
+
+inline std::vector<std::uint8_t> readBytes(const std::filesystem::path& path) { return lumtest::readFile(path); }
 
 struct PhotoDates { std::optional<std::string> original, digitized, edited; };
 
