@@ -2,7 +2,6 @@
 // stamp, and a read after opening refuses a file that is no longer the one
 // opened, whatever happened to it.
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <fstream>
 #include <functional>
@@ -64,23 +63,6 @@ TEST(FileData, AReadAfterOpeningRefusesAFileThatIsNoLongerTheOneOpened) {
     const auto again = FileData::readIfUnchanged(temp.path(), *opened->stampAsOpened(), FileData::kWholeFile, &failure);
     EXPECT_EQ(again ? again->size() : 0, change ? 0u : 10000u);
     EXPECT_EQ(failure.reason, change ? lum::kChangedSinceOpenedReason : "");
-  }
-}
-
-TEST(FileData, AFailureSaysWhatHappened) {
-  const lumtest::TempFile unreadable(pattern(10));
-  fs::permissions(unreadable.path(), fs::perms::none);
-  const std::pair<fs::path, const char*> failures[] = {
-      {"/", "Choose a regular file, not a folder or a device."},
-      {"/nonexistent/lumidate/photo.jpg", "Check that the file exists."},
-      {unreadable.path(), "Check the file's permissions."},
-  };
-  for (const auto& [path, suggestion] : failures) {
-    if (::geteuid() == 0 && path == unreadable.path()) continue;  // root reads whatever the permissions say
-    lum::ReadFailure failure;
-    EXPECT_EQ(FileData::readHead(path, 4096, &failure), nullptr) << path;
-    EXPECT_FALSE(failure.reason.empty()) << path;
-    EXPECT_EQ(failure.recoverySuggestion, suggestion) << path;
   }
 }
 
