@@ -66,4 +66,11 @@ TEST(FileData, AReadAfterOpeningRefusesAFileThatIsNoLongerTheOneOpened) {
   }
 }
 
+TEST(FileData, AFailureSaysWhatCanBeDone) {
+  lum::ReadFailure missing, folder;
+  EXPECT_FALSE(FileData::readHead("/nonexistent/photo.jpg", 4096, &missing) || FileData::readHead("/", 4096, &folder));
+  EXPECT_EQ(missing.recoverySuggestion + "|" + folder.recoverySuggestion,
+            "Check that the file exists.|Choose a regular file, not a folder or a device.");
+}
+
 }  // namespace

@@ -21,6 +21,16 @@ std::pair<std::unique_ptr<LumImageFile>, std::optional<std::uint64_t>> walk(cons
   return {std::move(file), found ? std::optional(location) : std::nullopt};
 }
 
+TEST(JpegScan, JfifFieldTexts) {
+  // Version bytes are signed and a zero minor prints nothing; thumbnail sizes of 128 and more are left out.
+  const auto dpc = walk(JpegBuilder().jfif(0xFF, 0, 2, 300, 600, 2, 1, Bytes(6, 0)).build()).first;
+  const auto none = walk(JpegBuilder().jfif(1, 2, 3, 1, 1, 128, 1, Bytes(384, 0)).build()).first;
+  std::vector<std::optional<std::string>> read;
+  for (const char* key : {"JFIF Version", "Density Unit", "X Density", "Thumbnail Width", "Thumbnail Height"})
+    read.insert(read.end(), {dpc->JFIFValue(key), none->JFIFValue(key)});
+  EXPECT_EQ(read, (decltype(read){"-1.", "1.2", "dpc", "No Units", "300", "1", "2", {}, "1", "1"}));
+}
+
 TEST(JpegScan, Layouts) {
   // An APP0 with thumbnail pixels that spell an Exif APP1: the walk goes on
   // right after the thumbnail sizes, so it finds them, which shows where it stands.
