@@ -61,18 +61,6 @@ TEST(PhotoshopWalk, StopRulesKeepBlocksBeforeTheBrokenOne) {
   for (const Case& c : cases) EXPECT_EQ(walk(c.bytes).IRBs().size(), c.kept) << c.what;
 }
 
-TEST(PhotoshopWalk, NamesAndOddDataKeepTheirPadding) {
-  // Names of odd and even length, odd data: each block must start where the
-  // writer put it, or the ids after it come out wrong.
-  const Bytes bytes = block(1060, "abc", {1, 2, 3}) + block(1028, "ab", {9}) + block(1005, "", Bytes(16, 0));
-  const OrbPhotoshopFF ff = walk(bytes);
-  EXPECT_EQ(ids(ff), (std::vector<std::uint16_t>{1005, 1028, 1060}));
-  EXPECT_EQ(ff.imageResourceBlockWithIRBID(1060)->name(), "abc");
-  EXPECT_EQ(ff.imageResourceBlockWithIRBID(1028)->name(), "ab");
-  // Serialised in sorted order, every block as it was read.
-  EXPECT_EQ(ff.data(), block(1005, "", Bytes(16, 0)) + block(1028, "ab", {9}) + block(1060, "abc", {1, 2, 3}));
-}
-
 TEST(PhotoshopList, ThumbnailPrefers1036AndFollowsSorting) {
   const Bytes header(28, 7);
   OrbPhotoshopFF ff = walk(block(1033, "", header + Bytes{1}) + block(1036, "", header + Bytes{2, 3}));
