@@ -2,7 +2,6 @@
 // stamp, and a read after opening refuses a file that is no longer the one
 // opened, whatever happened to it.
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <fstream>
 #include <functional>
@@ -67,21 +66,11 @@ TEST(FileData, AReadAfterOpeningRefusesAFileThatIsNoLongerTheOneOpened) {
   }
 }
 
-TEST(FileData, AFailureSaysWhatHappened) {
-  const lumtest::TempFile unreadable(pattern(10));
-  fs::permissions(unreadable.path(), fs::perms::none);
-  const std::pair<fs::path, const char*> failures[] = {
-      {"/", "Choose a regular file, not a folder or a device."},
-      {"/nonexistent/lumidate/photo.jpg", "Check that the file exists."},
-      {unreadable.path(), "Check the file's permissions."},
-  };
-  for (const auto& [path, suggestion] : failures) {
-    if (::geteuid() == 0 && path == unreadable.path()) continue;  // root reads whatever the permissions say
-    lum::ReadFailure failure;
-    EXPECT_EQ(FileData::readHead(path, 4096, &failure), nullptr) << path;
-    EXPECT_FALSE(failure.reason.empty()) << path;
-    EXPECT_EQ(failure.recoverySuggestion, suggestion) << path;
-  }
+TEST(FileData, AFailureSaysWhatCanBeDone) {
+  lum::ReadFailure missing, folder;
+  EXPECT_FALSE(FileData::readHead("/nonexistent/photo.jpg", 4096, &missing) || FileData::readHead("/", 4096, &folder));
+  EXPECT_EQ(missing.recoverySuggestion + "|" + folder.recoverySuggestion,
+            "Check that the file exists.|Choose a regular file, not a folder or a device.");
 }
 
 }  // namespace

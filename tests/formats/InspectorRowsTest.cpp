@@ -21,7 +21,6 @@ std::vector<std::string> texts(const std::vector<LumInfoRow>& rows) {
 }
 
 using cattest::rationals;
-using cattest::shorts;
 using cattest::text;
 
 OrbTiff tiffOf(std::int8_t endian, const std::vector<OrbIFDEntry>& entries) {
@@ -42,32 +41,6 @@ TEST(InspectorRows, JpegWithOnlyJFIFShowsOnlyTheJFIFGroup) {
   EXPECT_TRUE(source.isHeadingRow(0));
   // Headings, other columns and rows past the last have no value.
   EXPECT_EQ(source.objectValue("Value", 0) + source.objectValue("Other", 2) + source.objectValue("Value", 99), "");
-}
-
-TEST(InspectorRows, BigEndianTiffStartsWithItsByteOrderAndKeepsDisplayOrder) {
-  const std::int8_t M = kOrbBigEndian;
-  const OrbTiff tiff = tiffOf(M, {shorts(M, 274, kTIFFIFDID, 6), text(M, 272, kTIFFIFDID, "Model Z"),
-                                  text(M, 271, kTIFFIFDID, "Maker"), text(M, 306, kTIFFIFDID, "2001:02:03 04:05:06"),
-                                  shorts(M, 0x0100, kTIFFIFDID, 640), shorts(M, 273, kTIFFIFDID, 8)});
-  const auto rows = LumInfoDataSource::rowsFor(&tiff, nullptr, {{}, {}, "2001:02:03 04:05:06"});
-  EXPECT_EQ(texts(rows), (std::vector<std::string>{"# TIFF", "TIFF|Byte Order|Big Endian",
-                                                   "TIFF|Date Time|2001:02:03 04:05:06", "TIFF|Make|Maker",
-                                                   "TIFF|Model|Model Z", "TIFF|Orientation|6 Right-Top",
-                                                   "TIFF|Image Width|640"}));
-  EXPECT_TRUE(rows[1].entry && rows[1].entry->isBigEndian());
-}
-
-TEST(InspectorRows, GroupsWithoutListedTagsHaveNoHeading) {
-  const std::int8_t I = kOrbLittleEndian;
-  // The Exif IFD holds only tags the inspector does not list; GPS only its references.
-  const OrbTiff tiff = tiffOf(I, {text(I, 271, kTIFFIFDID, "Maker"), shorts(I, 0x8769, kTIFFIFDID, 0),
-                                  text(I, 0xA434, kExifIFDID, "Lens"), shorts(I, 0x1234, kExifIFDID, 1),
-                                  text(I, 1, kGPSIFDID, "N"), text(I, 1, kInteroperabilityIFDID, "R98")});
-  EXPECT_EQ(texts(LumInfoDataSource::rowsFor(&tiff, nullptr, {})),
-            (std::vector<std::string>{"# TIFF", "TIFF|Byte Order|Little Endian", "TIFF|Make|Maker",
-                                      "# Interoperability", "Interoperability|Interoperability Index|R98"}));
-  const OrbTiff empty;  // a byte order alone makes no group
-  EXPECT_TRUE(LumInfoDataSource::rowsFor(nullptr, nullptr, {}).empty() && LumInfoDataSource::rowsFor(&empty, nullptr, {}).empty());
 }
 
 TEST(InspectorRows, DateRowsShowTheDatesAsOpened) {

@@ -43,9 +43,6 @@ const std::vector<DatedPhoto>& datedPhotos();
 // with an fsync, which makes the full set take half a minute).
 std::vector<const DatedPhoto*> photosForFaults();
 
-// True when LUMIDATE_RELIABILITY_FULL is set to anything but "0".
-bool fullRun();
-
 // Prints a measured figure on its own line, for RELIABILITY.md.
 void reportFigure(const std::string& name, double value);
 

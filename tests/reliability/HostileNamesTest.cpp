@@ -2,9 +2,7 @@
 // in names, very long paths, links, link loops, files vanishing mid-walk.
 // The folder expansion must find exactly the photos, never loop, never throw;
 // saving must go through links to the photo they point at.
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <gtest/gtest.h>
 
@@ -51,8 +49,7 @@ fs::path deepFolder(const fs::path& root, std::size_t total) {
 TEST(HostileNames, ExpansionFindsEveryPhotoAndSavingWritesEach) {
   reltest::ScratchFolder root;
   const fs::path album = root.path() / "album", store = root.path() / "store";
-  fs::create_directory(album);
-  fs::create_directory(store);
+  for (const fs::path& d : {album, store}) fs::create_directory(d);
   std::set<fs::path> photos;
   int index = 0;
   for (const std::string& name : kHostileNames) reltest::writeAll(*photos.insert(album / name).first, reltest::smallDatedJpeg(index++));

@@ -4,7 +4,6 @@
 //
 // LUMIDATE_KILL_FILES (default 200) and LUMIDATE_KILLS (default 5) set the
 // size; RELIABILITY.md gives the figures of 1000 files and 50 kills.
-#include <fcntl.h>
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
