@@ -58,8 +58,8 @@ TEST(KillDuringSave, EveryFileIsAsBeforeOrAsIntendedAfterEachKill) {
   for (int k = 0; k < kills; ++k) {
     refresh();
     const pid_t pid = reltest::startShiftByOneDay(folder.path());
-    // UNAVOIDABLE: the kill must land at a random moment of the save, which no signal marks.
-    std::this_thread::sleep_for(std::chrono::microseconds(moment(random)));
+    // The kill must land at a random moment of the save, which no signal marks.
+    std::this_thread::sleep_for(std::chrono::microseconds(moment(random)));  // UNAVOIDABLE
     ::kill(pid, SIGKILL);
     waitFor(pid);
     std::size_t changed = 0;
