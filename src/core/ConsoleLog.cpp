@@ -21,4 +21,8 @@ void setLogSink(LogSink sink) { currentSink.store(sink ? sink : &logToStandardEr
 
 void logLine(std::string_view line) { currentSink.load()(line); }
 
+void logLines(const std::vector<std::string>& lines) {
+  for (const std::string& line : lines) logLine(line);
+}
+
 }  // namespace orb

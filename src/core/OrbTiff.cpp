@@ -23,7 +23,7 @@ std::unique_ptr<OrbTiff> OrbTiff::exifWithPtr(orb::ByteView block, const std::ui
   auto tiff = std::make_unique<OrbTiff>();
   std::vector<std::string> lines;
   const bool parsed = tiff->pSearchDataIFDByIFD(block, header, maxLocation, consoleLines ? consoleLines : &lines);
-  for (const std::string& line : lines) orb::logLine(line);
+  orb::logLines(lines);
   if (!parsed) return nullptr;
   return tiff;
 }

@@ -81,10 +81,6 @@ std::optional<std::string> textOf(const ExifDateScan::Value& value) {
   return std::string(value.text);
 }
 
-void print(const std::vector<std::string>& lines) {
-  for (const std::string& line : lines) orb::logLine(line);
-}
-
 constexpr std::size_t indexOf(LumDateField field) { return static_cast<std::size_t>(field); }
 
 constexpr LumDateField kDateFields[] = {LumDateField::DateTimeOriginal, LumDateField::DateTimeDigitized,
@@ -183,7 +179,7 @@ std::unique_ptr<LumImageFile> LumImageFile::fromHead(const std::shared_ptr<const
   // same reason: they are printed by the parse that is kept.
   std::vector<std::string> consoleLines;
   if (!file->scan(bytes, head->stampAsOpened()->size, nullptr, &consoleLines) || refused) return nullptr;
-  if (how.build == Build::Dates) print(consoleLines);
+  if (how.build == Build::Dates) orb::logLines(consoleLines);
   file->finishOpening(head);
   return file;
 }
