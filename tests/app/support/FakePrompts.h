@@ -1,0 +1,30 @@
+#pragma once
+// Answers the program's dialogs and alerts in window tests: each question
+// takes the answer the test put in place, and every alert is recorded.
+
+#include <deque>
+#include <optional>
+#include <vector>
+
+#include "app/Prompts.h"
+
+class FakePrompts : public Prompts {
+ public:
+  std::optional<OpenRequest> nextOpenRequest;  // taken by the next open dialog
+  OpenStyle nextOpenStyle = OpenStyle::OneWindow;
+  int openDialogs = 0;
+  int openStyleQuestions = 0;
+  std::vector<std::size_t> askedCounts;
+  std::vector<Alert> alerts;
+
+  std::optional<OpenRequest> chooseFilesToOpen(QWidget*, bool) override {
+    ++openDialogs;
+    return std::exchange(nextOpenRequest, std::nullopt);
+  }
+  OpenStyle askHowToOpen(std::size_t count) override {
+    ++openStyleQuestions;
+    askedCounts.push_back(count);
+    return nextOpenStyle;
+  }
+  void showCriticalAlert(QWidget*, const Alert& alert) override { alerts.push_back(alert); }
+};
