@@ -110,7 +110,8 @@ def find_now(root, role, name, showing=True):
             return False
         if showing and not node.getState().contains(pyatspi.STATE_SHOWING):
             return False
-        return name is None or plain(node.name) == name or labelled_by(node) == name
+        return (name is None or plain(node.name) == name or labelled_by(node) == name
+                or plain(node.description) == name)
     return pyatspi.findDescendant(root, matches)
 
 
@@ -151,6 +152,23 @@ def click_center(node):
     """A real mouse click on the middle of node (for what has no action)."""
     ext = node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
     Atspi.generate_mouse_event(ext.x + ext.width // 2, ext.y + ext.height // 2, "b1c")
+
+
+def find_combo(app, name, items, within=None):
+    """The combo box named name (through its label or description) or, when
+    the window gives it no label, the one whose list holds exactly items."""
+    def probe():
+        root = within or app.root
+        named = find_now(root, pyatspi.ROLE_COMBO_BOX, name)
+        if named:
+            return named
+        def holds_items(node):
+            if node.getRole() != pyatspi.ROLE_COMBO_BOX:
+                return False
+            listed = pyatspi.findAllDescendants(node, lambda n: n.getRole() == pyatspi.ROLE_LIST_ITEM)
+            return [plain(n.name) for n in listed] == list(items)
+        return pyatspi.findDescendant(root, holds_items)
+    return wait_until(f"combo box '{name}'", probe)
 
 
 def choose_in_combo(combo, item_name):

@@ -12,7 +12,7 @@ import atspi_driver as d
 def main(probe):
     app = d.App([probe])
     try:
-        d.choose_in_combo(app.find(pyatspi.ROLE_COMBO_BOX, "Mode"), "Forward")
+        d.choose_in_combo(d.find_combo(app, "Mode", ["Backward", "Forward"]), "Forward")
         d.set_number(app.find(pyatspi.ROLE_SPIN_BUTTON, "Hours"), 1)
         d.press(app.find(pyatspi.ROLE_PUSH_BUTTON, "Apply"))
         line = app.process.stdout.readline().strip()

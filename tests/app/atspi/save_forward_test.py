@@ -39,7 +39,7 @@ def drive(app):
     table = app.find(pyatspi.ROLE_TABLE, None, within=window)
     d.wait_until("three rows in the file table", lambda: table.queryTable().nRows == 3)
 
-    mode = app.find(pyatspi.ROLE_COMBO_BOX, "Mode", within=window)
+    mode = d.find_combo(app, "Mode", ["Backward", "Forward", "Set Time"], within=window)
     d.choose_in_combo(mode, "Backward")
     d.choose_in_combo(mode, "Forward")
     for name, wanted in TARGETS.items():
