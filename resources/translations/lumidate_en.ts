@@ -16,6 +16,66 @@
         <translation>Set Time</translation>
     </message>
     <message>
+        <source>Years</source>
+        <translation>Years</translation>
+    </message>
+    <message>
+        <source>Months</source>
+        <translation>Months</translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation>Days</translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation>Hours</translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation>Minutes</translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation>Seconds</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Year</translation>
+    </message>
+    <message>
+        <source>Month</source>
+        <translation>Month</translation>
+    </message>
+    <message>
+        <source>Day</source>
+        <translation>Day</translation>
+    </message>
+    <message>
+        <source>Hour</source>
+        <translation>Hour</translation>
+    </message>
+    <message>
+        <source>Minute</source>
+        <translation>Minute</translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <translation>Second</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Apply</translation>
+    </message>
+    <message>
+        <source>A date would leave the range from 0001 to 9999.</source>
+        <translation>A date would leave the range from 0001 to 9999.</translation>
+    </message>
+    <message>
+        <source>Thumbnail</source>
+        <translation>Thumbnail</translation>
+    </message>
+    <message>
         <source>Edited</source>
         <translation>Edited</translation>
     </message>
@@ -54,6 +114,10 @@
     <message>
         <source>Restore Selected Files</source>
         <translation>Restore Selected Files</translation>
+    </message>
+    <message>
+        <source>Restore All Files</source>
+        <translation>Restore All Files</translation>
     </message>
     <message>
         <source>Date Time Original:</source>
@@ -117,7 +181,7 @@
     </message>
     <message>
         <source>Loading files</source>
-        <translation>Loading %1 files</translation>
+        <translation>Loading %1 files...</translation>
     </message>
     <message>
         <source>%@ / %lu</source>

@@ -19,10 +19,10 @@ inline constexpr std::array<EnglishFormat, 9> kEnglishFormats{{
     {"LocalST_ImagesWindowTitle", "%1 (%2 images)"},
     {"The document has unsaved changes. Do you want to save the changes before closing?",
      "The document \"%1\" has unsaved changes. Do you want to save the changes before closing?"},
-    {"Loading files", "Loading %1 files"},
-    {"%@ / %lu", "%1 / %2"},
-    {"You are opening multiple files.", "You are opening %1 files."},
     {"Could not be opened.", "\"%1\" could not be opened."},
+    {"You are opening multiple files.", "You are opening %1 files."},
+    {"Loading files", "Loading %1 files..."},
+    {"%@ / %lu", "%1 / %2"},
 }};
 
 }  // namespace LumLocalized

@@ -122,7 +122,7 @@ def labelled_by(node):
     box is found through the label that points at it."""
     for relation in node.getRelationSet():
         if relation.getRelationType() == pyatspi.RELATION_LABELLED_BY and relation.getNTargets():
-            return plain(relation.getTarget(0).name)
+            return plain(relation.getTarget(0).name).rstrip(":").strip()
     return None
 
 
