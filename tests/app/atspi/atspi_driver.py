@@ -33,6 +33,8 @@ def wait_until(what, probe, timeout=DEFAULT_TIMEOUT):
     while True:
         try:
             value = probe()
+        except DriverError:
+            raise
         except Exception:  # a node can vanish while it is read
             value = None
         if value:
