@@ -80,6 +80,8 @@ void LumFileLoader::cancel() { shared_->cancelled = true; }
 
 bool LumFileLoader::isCancelled() const { return shared_->cancelled.load(); }
 
+std::size_t LumFileLoader::doneCount() const { return shared_->done.load(); }
+
 void LumFileLoader::reportProgress() {
   const std::size_t done = shared_->done.load();
   if (done == lastReported_) return;

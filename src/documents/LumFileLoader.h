@@ -55,6 +55,8 @@ class LumFileLoader : public QObject {
   void load(std::vector<std::filesystem::path> paths);
   void cancel();
   bool isCancelled() const;
+  // Files read so far (a cancelled load stops short of all).
+  std::size_t doneCount() const;
   // The files read, once finished() arrived (taken: a second call is empty).
   Result takeResult();
 
