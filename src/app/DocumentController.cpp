@@ -89,18 +89,19 @@ void DocumentController::filesExpanded(const FileExpansion::Expansion& expansion
   }
   connect(loader_.get(), &LumFileLoader::finished, this, &DocumentController::filesLoaded);
   loader_->load(files);
+  emit loadingStarted(files.size());
 }
 
 void DocumentController::filesLoaded() {
-  progress_.reset();
   LumFileLoader::Result result = loader_->takeResult();
   // Other openings may start from here on (the alert below waits for a person).
   loader_.release()->deleteLater();
-  if (!result.cancelled) {
-    makeWindows(result);
-    reportFailures(std::move(result.failures));
-  }
+  // The new windows come up before the progress window goes: closing the
+  // program's last window would end it.
+  if (!result.cancelled) makeWindows(result);
+  progress_.reset();
   split_ = {};
+  if (!result.cancelled) reportFailures(std::move(result.failures));
   emit openingFinished();
 }
 

@@ -68,6 +68,8 @@ class DocumentController : public QObject {
  signals:
   // An opening is over (windows made, failures reported, or nothing done).
   void openingFinished();
+  // The files of an opening are being read (the progress window is up for two or more).
+  void loadingStarted(std::size_t count);
   void quitReviewFinished(bool quit);
 
  protected:
