@@ -51,10 +51,11 @@ void DocumentController::addWindow(DocumentWindow* window) {
   window->setAcceptDrops(true);
   window->installEventFilter(this);
   connect(window, &DocumentWindow::windowClosing, this, [this](DocumentWindow* w) { forgetWindow(w); });
-  connect(window, &QObject::destroyed, this, &DocumentController::forgetWindow);
   window->show();
 }
 
+// Called while the window still lives (its close was accepted); a window
+// deleted otherwise leaves a null pointer that windows() skips.
 void DocumentController::forgetWindow(QObject* window) {
   std::erase_if(windows_, [window](const QPointer<DocumentWindow>& w) { return !w || w.data() == window; });
 }
