@@ -48,6 +48,10 @@ SingleFileWindow::SingleFileWindow(std::unique_ptr<LumSingleFileDoc> document, A
   }
   column->addLayout(form);
   column->addStretch();
+  saveButton_ = new QPushButton(LumLocalized::text("Save"), central);
+  saveButton_->setObjectName("saveFileButton");
+  saveButton_->setAccessibleName(saveButton_->text());
+  column->addWidget(saveButton_, 0, Qt::AlignRight);
   setCentralWidget(central);
 
   buildActions();
@@ -65,8 +69,10 @@ void SingleFileWindow::buildActions() {
   auto* save = new QAction(LumLocalized::text("Save"), this);
   save->setShortcut(QKeySequence::Save);
   connect(save, &QAction::triggered, this, [this] { document_->saveDocument(); });
+  connect(saveButton_, &QPushButton::clicked, save, &QAction::trigger);
   const auto updateSave = [this, save] {
     save->setEnabled(document_->validateMenuItem(LumSingleFileDoc::MenuCommand::Save));
+    saveButton_->setEnabled(save->isEnabled());
   };
   connect(document_.get(), &LumSingleFileDoc::datesChanged, save, updateSave);
   connect(&document_->undoStack(), &QUndoStack::indexChanged, save, updateSave);

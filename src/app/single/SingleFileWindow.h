@@ -10,6 +10,7 @@
 #include "documents/LumSingleFileDoc.h"
 
 class QLabel;
+class QPushButton;
 
 class SingleFileWindow : public DocumentWindow {
   Q_OBJECT
@@ -35,5 +36,6 @@ class SingleFileWindow : public DocumentWindow {
 
   std::unique_ptr<LumSingleFileDoc> document_;
   std::array<QLabel*, DateTargets::kCount> dateLabels_{};
+  QPushButton* saveButton_ = nullptr;
   bool savingForClose_ = false;
 };

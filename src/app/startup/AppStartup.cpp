@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QIcon>
 #include <QSettings>
@@ -111,6 +112,8 @@ void AppStartup::makeDocumentController() {
 
 void AppStartup::filesHandedOver(const QStringList& paths) {
   showOpenDialogAtLaunch_ = false;
+  // Files given from outside replace a choice the user is still making.
+  if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) dialog->reject();
   queue_.add(paths);
 }
 
@@ -118,7 +121,8 @@ void AppStartup::showOpenDialogOnce() {
   if (!std::exchange(showOpenDialogAtLaunch_, false)) return;
   controller_->openDocument();
   // Nothing chosen and no window: nothing keeps the program.
-  if (controller_->windows().empty() && !controller_->isDocumentOpening()) QCoreApplication::quit();
+  if (controller_->windows().empty() && !controller_->isDocumentOpening() && queue_.isEmpty())
+    QCoreApplication::quit();
 }
 
 void AppStartup::terminate() {

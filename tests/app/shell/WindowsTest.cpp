@@ -27,7 +27,10 @@ void WindowsTest::closeSheetSaveWritesAndCloses() {
   QVERIFY(f.waitForOpening([&] { f.controller.openFiles({a}, false); }));
   QPointer<SingleFileWindow> window = qobject_cast<SingleFileWindow*>(f.controller.windows().front());
   QVERIFY(window);
+  auto* saveFile = window->findChild<QPushButton*>("saveFileButton");
+  QVERIFY(!saveFile->isEnabled());
   QVERIFY(window->document().changeDateWithYears(1, 0, 0, 0, 0, 0, true, 1));
+  QVERIFY(saveFile->isEnabled());
   QCOMPARE(window->findChild<QLabel*>("DateTimeOriginal")->text(), QStringLiteral("2021:01:31 10:00:00"));
 
   window->close();
