@@ -1,6 +1,7 @@
 #include "app/DialogPrompts.h"
 
 #include <QKeySequence>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
 

@@ -26,7 +26,11 @@ DocumentWindow::~DocumentWindow() = default;
 void DocumentWindow::askToSaveAndQuitApp(bool quitting) {
   raise();
   activateWindow();
-  if (closeSheet_) return;  // already asking; its answer goes on
+  if (closeSheet_) {
+    // Already asking (a close): its answer now also goes on with the quit.
+    quitting_ = quitting_ || quitting;
+    return;
+  }
   const std::optional<CloseTexts> texts = hasEditedFile() ? closeAlertTexts() : std::nullopt;
   if (!texts) {
     if (quitting) emit reviewFinished(true);

@@ -1,6 +1,7 @@
 #include "app/startup/Translations.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 
@@ -25,6 +26,11 @@ void install(QCoreApplication& app) {
   installIfLoaded(app, [](QTranslator& t) { return t.load(QStringLiteral(":/translations/lumidate_en.qm")); });
   const QLocale locale;
   if (locale.language() == QLocale::English) return;
+  // The toolkit's own texts (dialog buttons, the file dialog).
+  installIfLoaded(app, [&locale](QTranslator& t) {
+    return t.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"),
+                  QLibraryInfo::path(QLibraryInfo::TranslationsPath));
+  });
   // Installed last, so it is asked first.
   installIfLoaded(app, [&locale](QTranslator& t) {
     return t.load(locale, QStringLiteral("lumidate"), QStringLiteral("_"), QStringLiteral(":/translations"));

@@ -156,6 +156,21 @@ void OpeningTest::quitReviewAsksLastOpenedFirst() {
   QVERIFY(first && first->hasEditedFile());
 }
 
+void OpeningTest::quitWhileACloseSheetIsUpWaitsForIt() {
+  ShellFixture f;
+  QVERIFY(f.waitForOpening([&] { f.controller.openFiles({f.photo("a.jpg")}, false); }));
+  auto* window = static_cast<SingleFileWindow*>(f.controller.windows().front());
+  QVERIFY(window->document().changeDateWithYears(0, 1, 0, 0, 0, 0, true, 1));
+  window->close();
+  QVERIFY(window->closeSheet());
+  QSignalSpy review(&f.controller, &DocumentController::quitReviewFinished);
+  f.controller.reviewChangesAndQuit();
+  QCOMPARE(review.count(), 0);
+  QVERIFY(answerCloseSheet(window, "dontSaveButton"));
+  QCOMPARE(review.count(), 1);
+  QCOMPARE(review.front().front().toBool(), true);
+}
+
 void OpeningTest::quitWithNothingEditedQuits() {
   ShellFixture f;
   QVERIFY(f.waitForOpening([&] { f.controller.openFiles({f.photo("a.jpg")}, false); }));

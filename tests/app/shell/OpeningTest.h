@@ -13,6 +13,7 @@ class OpeningTest : public QObject {
   void handOversCloseTogetherOpenTogether();
   void quitReviewAsksLastOpenedFirst_data();
   void quitReviewAsksLastOpenedFirst();
+  void quitWhileACloseSheetIsUpWaitsForIt();
   void quitWithNothingEditedQuits();
   void listSizeIsStoredAndAnnounced();
   void openedFileGoesToOpenRecent();
