@@ -58,7 +58,8 @@ void DocumentController::startOpening(const std::vector<std::filesystem::path>& 
                                       bool separateWindows) {
   if (isDocumentOpening()) return;
   std::vector<std::filesystem::path> absolute;
-  for (const std::filesystem::path& path : paths) absolute.push_back(std::filesystem::absolute(path).lexically_normal());
+  for (const std::filesystem::path& path : paths)
+    absolute.push_back(std::filesystem::absolute(path).lexically_normal());
   loader_ = std::make_unique<LumFileLoader>();
   connect(loader_.get(), &LumFileLoader::expanded, this,
           [this, dropped, separateWindows](const FileExpansion::Expansion& expansion) {

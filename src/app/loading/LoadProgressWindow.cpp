@@ -56,5 +56,6 @@ void LoadProgressWindow::setProgress(std::size_t done, std::size_t total) {
   }
   percent_->setText(QStringLiteral("%1 %").arg(percent));
   const QLocale locale;
-  counts_->setText(QStringLiteral("%1 / %2").arg(locale.toString(qulonglong(done)), locale.toString(qulonglong(total))));
+  counts_->setText(
+      QStringLiteral("%1 / %2").arg(locale.toString(qulonglong(done)), locale.toString(qulonglong(total))));
 }

@@ -8,6 +8,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
@@ -69,6 +70,25 @@ void WindowsTest::cancelledLoadOpensNothing() {
   QVERIFY(f.controller.windows().empty());
   QVERIFY(f.prompts.alerts.empty());
   QVERIFY(!f.controller.isDocumentOpening() && !f.controller.progressWindow());
+}
+
+void WindowsTest::progressWindowCountsWithSeparators() {
+  const QLocale saved;
+  QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+  LoadProgressWindow window;
+  const auto label = [&window](const char* name) { return window.findChild<QLabel*>(name); };
+  QCOMPARE(label("loadTitle")->text(), QStringLiteral("Preparing..."));
+  window.show();
+  window.startLoading(1234);
+  QCOMPARE(label("loadTitle")->text(), QStringLiteral("Loading 1,234 files..."));
+  window.setProgress(617, 1234);
+  QCOMPARE(label("loadPercent")->text(), QStringLiteral("50 %"));
+  QCOMPARE(label("loadCounts")->text(), QStringLiteral("617 / 1,234"));
+  window.setProgress(1234, 1234);
+  QVERIFY(!label("loadPercent")->isVisible());
+  QVERIFY(label("loadCounts")->text().isEmpty());
+  QCOMPARE(window.findChild<QProgressBar*>()->value(), window.findChild<QProgressBar*>()->maximum());
+  QLocale::setDefault(saved);
 }
 
 void WindowsTest::filesDroppedOnAWindowOpenAsDropped() {

@@ -8,6 +8,7 @@ class WindowsTest : public QObject {
  private slots:
   void closeSheetSaveWritesAndCloses();
   void cancelledLoadOpensNothing();
+  void progressWindowCountsWithSeparators();
   void filesDroppedOnAWindowOpenAsDropped();
   void openDialogTakesFilesAndFolders();
   void failureListAlertShowsEveryPath();
