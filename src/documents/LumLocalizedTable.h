@@ -12,13 +12,16 @@ struct EnglishFormat {
   std::string_view english;
 };
 
-inline constexpr std::array<EnglishFormat, 5> kEnglishFormats{{
+inline constexpr std::array<EnglishFormat, 8> kEnglishFormats{{
     {"Save Completed:", "Save Completed: %1"},
     {"Save a file Failed.", "Save a file Failed. (%1)"},
     {"Save files Failed.", "Save files Failed. (%1 files)"},
     {"LocalST_ImagesWindowTitle", "%1 (%2 images)"},
     {"The document has unsaved changes. Do you want to save the changes before closing?",
      "The document \"%1\" has unsaved changes. Do you want to save the changes before closing?"},
+    {"Could not be opened.", "\"%1\" could not be opened."},
+    {"You are opening multiple files.", "You are opening %1 files."},
+    {"Loading files", "Loading %1 files..."},
 }};
 
 }  // namespace LumLocalized
