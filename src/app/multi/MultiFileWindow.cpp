@@ -55,7 +55,9 @@ MultiFileWindow::MultiFileWindow(std::unique_ptr<LumMultiFileDoc> document, AppC
 }
 
 MultiFileWindow::~MultiFileWindow() {
-  // The widgets refer to the document: they go first.
+  // The widgets refer to the document: they go first, and the table's
+  // layout as it stood is what stays stored.
+  table_->horizontalHeader()->disconnect(this);
   scheduler_.reset();
   std::unique_ptr<QWidget> central(takeCentralWidget());
 }
@@ -130,9 +132,9 @@ void MultiFileWindow::bindTable() {
 
 void MultiFileWindow::restoreTableLayout() {
   QHeaderView* header = table_->horizontalHeader();
+  const QSignalBlocker blocker(header);  // nothing is stored while the kept layout is put back
   for (int column = 0; column < FileTableModel::ColumnCount; ++column)
     header->resizeSection(column, kInitialWidths[static_cast<std::size_t>(column)]);
-  const QSignalBlocker blocker(header);
   const QByteArray state = context().settings.tableLayout();
   if (!state.isEmpty() && header->restoreState(state) && header->sortIndicatorSection() != FileTableModel::Thumbnail) {
     model_->sort(header->sortIndicatorSection(), header->sortIndicatorOrder());
