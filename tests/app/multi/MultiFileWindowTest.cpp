@@ -20,6 +20,7 @@
 #include <set>
 
 #include "app/AppActions.h"
+#include "app/multi/BitmapImage.h"
 #include "app/multi/FileTableModel.h"
 #include "app/multi/FileTableView.h"
 #include "app/multi/MultiFileActions.h"
@@ -137,6 +138,66 @@ class MultiFileWindowTest : public QObject {
     QCOMPARE(cell("a.jpg", Model::DateTimeOriginal), QString::fromStdString(kA));
     QCOMPARE(cell("b.jpg", Model::DateTime), QString::fromStdString(kB));
     QVERIFY(!doc().hasEditedFile());
+    // Set Time names the fields for a point in time.
+    widget<QComboBox>("modePopup").setCurrentIndex(2);
+    QCOMPARE(hours.accessibleName(), QString("Hour"));
+    QCOMPARE(widget<QSpinBox>("monthField").maximum(), 12);
+  }
+
+  void contextMenuRestoresTheClickedFileOrTheSelection() {
+    open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, kB, kB}}});
+    typeInto("b.jpg", Model::DateTime, "2002:02:02 02:02:02");
+    window_->table().selectRow(rowOf("a.jpg"));
+    MultiFileActions& actions = window_->actions();
+    actions.contextMenuFor(rowOf("b.jpg"));
+    QCOMPARE(actions.restoreSelected->text(), QString("Restore Clicked File"));
+    QVERIFY(actions.restoreSelected->isEnabled());
+    actions.contextMenuFor(rowOf("a.jpg"));
+    QCOMPARE(actions.restoreSelected->text(), QString("Restore Selected Files"));
+    QVERIFY(!actions.restoreSelected->isEnabled());  // a is not edited
+    actions.contextMenuFor(rowOf("b.jpg"));
+    actions.restoreSelected->trigger();
+    QCOMPARE(cell("b.jpg", Model::DateTime), QString::fromStdString(kB));
+  }
+
+  void bitmapsOfEveryLayoutBecomeImages() {
+    using A = lum::AlphaInfo;
+    struct Case {
+      const char* name;
+      lum::ColorSpace space;
+      A alpha;
+      int bits;
+      std::vector<std::uint16_t> components;  // one pixel
+      QColor expected;
+    };
+    const Case cases[] = {
+        {"grey", lum::ColorSpace::Gray, A::None, 8, {200}, QColor(200, 200, 200)},
+        {"RGB", lum::ColorSpace::RGB, A::None, 8, {10, 20, 30}, QColor(10, 20, 30)},
+        {"XRGB", lum::ColorSpace::RGB, A::NoneSkipFirst, 8, {0, 10, 20, 30}, QColor(10, 20, 30)},
+        {"ARGB straight", lum::ColorSpace::RGB, A::First, 8, {128, 10, 20, 30}, QColor(10, 20, 30, 128)},
+        {"RGB 16 bit", lum::ColorSpace::RGB, A::None, 16, {0xFF00, 0x8000, 0x0100}, QColor(255, 128, 1)},
+        {"CMYK", lum::ColorSpace::CMYK, A::None, 8, {255, 0, 0, 0}, QColor(0, 255, 255)},
+    };
+    for (const Case& c : cases) {
+      lum::Bitmap b;
+      b.width = b.height = 1;
+      b.bitsPerComponent = c.bits;
+      b.bitmapInfo = static_cast<std::uint32_t>(c.alpha);
+      b.colorSpace = c.space;
+      b.bytesPerRow = static_cast<int>(c.components.size()) * c.bits / 8;
+      for (std::uint16_t v : c.components) {
+        const auto* bytes = reinterpret_cast<const std::uint8_t*>(&v);
+        if (c.bits == 8) b.pixels.push_back(static_cast<std::uint8_t>(v));
+        else b.pixels.insert(b.pixels.end(), bytes, bytes + 2);  // host order
+      }
+      const QImage image = imageFromBitmap(b);
+      QVERIFY2(!image.isNull(), c.name);
+      QVERIFY2(image.pixelColor(0, 0) == c.expected, c.name);
+    }
+    lum::Bitmap broken;
+    broken.width = broken.height = 2;
+    broken.bytesPerRow = 8;  // pixels missing
+    QVERIFY(imageFromBitmap(broken).isNull());
   }
 
   void shiftOutOfRangeWarnsAndDisablesApply() {
@@ -254,7 +315,8 @@ class MultiFileWindowTest : public QObject {
     const auto thumbnailIsTheFilesOwn = [&](int row) {
       const QModelIndex index = model.index(row, Model::Thumbnail);
       const QPixmap* cached = window_->thumbnails().find(index.data(Model::PathRole).toString());
-      return cached && index.data(Qt::DecorationRole).value<QPixmap>().cacheKey() == cached->cacheKey();
+      return cached && !cached->isNull() &&
+             index.data(Qt::DecorationRole).value<QPixmap>().cacheKey() == cached->cacheKey();
     };
     QTRY_VERIFY(thumbnailIsTheFilesOwn(0) && thumbnailIsTheFilesOwn(1) && thumbnailIsTheFilesOwn(2));
     QVERIFY(!model.index(0, Model::Thumbnail).data(Model::ThumbnailPendingRole).toBool());
