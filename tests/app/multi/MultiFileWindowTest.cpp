@@ -327,6 +327,20 @@ class MultiFileWindowTest : public QObject {
     for (int row = 0; row < 3; ++row) QVERIFY(thumbnailIsTheFilesOwn(row));
     QCOMPARE(window_->thumbnailScheduler().pendingCount(), std::size_t(0));
   }
+
+  void thumbnailsAreMadeForTheRowsInView() {
+    std::vector<Photo> photos;
+    for (int i = 0; i < 300; ++i) photos.push_back({QString("p%1.jpg").arg(i, 3, 10, QChar('0')).toStdString(), {kA, kA, kA}});
+    open(photos);
+    const auto cached = [&](int row) {
+      return window_->thumbnails().contains(window_->model().index(row, 0).data(Model::PathRole).toString());
+    };
+    QTRY_VERIFY(cached(0));
+    QTRY_COMPARE(window_->thumbnailScheduler().pendingCount(), std::size_t(0));
+    QVERIFY(!cached(299));  // far below the view: never asked for
+    window_->table().scrollToBottom();
+    QTRY_VERIFY(cached(299));
+  }
 };
 
 QTEST_MAIN(MultiFileWindowTest)
