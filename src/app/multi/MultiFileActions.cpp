@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include "app/MenuBar.h"
+#include "app/multi/FileTableModel.h"
 #include "documents/LumLocalized.h"
 #include "documents/LumMultiFileDoc.h"
 
@@ -44,6 +45,13 @@ MultiFileActions::MultiFileActions(LumMultiFileDoc& document, QWidget* window)
   connect(restoreSelected, &QAction::triggered, &document_, &Doc::restoreSelectedFiles);
   connect(restoreAll, &QAction::triggered, &document_, &Doc::restoreAllFiles);
 
+  sortMenu = new QMenu(tr("Sort By"), window);
+  sortMenu->setObjectName("sortMenu");
+  for (int column = FileTableModel::FileName; column < FileTableModel::ColumnCount; ++column) {
+    QAction* sortBy = sortMenu->addAction(LumLocalized::text(FileTableModel::columnKey(column).data()));
+    connect(sortBy, &QAction::triggered, this, [this, column] { emit sortByColumn(column); });
+  }
+
   contextMenu_ = new QMenu(window);
   contextMenu_->setObjectName("fileTableContextMenu");
   contextMenu_->addActions({restoreSelected, restoreAll});
@@ -60,7 +68,7 @@ WindowMenuActions MultiFileActions::menuActions() const {
   own.save = save;
   own.saveAll = saveAll;
   own.selectAll = selectAll;
-  own.edit = {markAll, markNone, markSelected, unmarkSelected, nullptr, restoreSelected, restoreAll};
+  own.edit = {markAll, markNone, markSelected, unmarkSelected, nullptr, restoreSelected, restoreAll, nullptr, sortMenu->menuAction()};
   return own;
 }
 

@@ -31,6 +31,8 @@ class MultiFileActions : public QObject {
   QAction* unmarkSelected = nullptr;
   QAction* restoreSelected = nullptr;
   QAction* restoreAll = nullptr;
+  // Sorting from the keyboard: one command per sortable column.
+  QMenu* sortMenu = nullptr;
 
   // The window's part of the menu bar.
   WindowMenuActions menuActions() const;
@@ -40,6 +42,11 @@ class MultiFileActions : public QObject {
 
  public slots:
   void refresh();
+
+ signals:
+  // Sort by column (ascending, or the other way round when the table is
+  // sorted by it already), as a click on its header does.
+  void sortByColumn(int column);
 
  private:
   LumMultiFileDoc& document_;

@@ -45,6 +45,12 @@ MultiFileWindow::MultiFileWindow(std::unique_ptr<LumMultiFileDoc> document, AppC
       actions_->refresh();
     });
   connect(actions_->selectAll, &QAction::triggered, table_, &QTableView::selectAll);
+  connect(actions_, &MultiFileActions::sortByColumn, this, [this](int column) {
+    // Through the header, so its indicator and the stored layout follow.
+    QHeaderView* header = table_->horizontalHeader();
+    const bool flip = header->sortIndicatorSection() == column && header->sortIndicatorOrder() == Qt::AscendingOrder;
+    header->setSortIndicator(column, flip ? Qt::DescendingOrder : Qt::AscendingOrder);
+  });
   bindDocument();
   bindTable();
   restoreTableLayout();

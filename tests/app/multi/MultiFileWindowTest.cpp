@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QHeaderView>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QSettings>
 #include <QSignalSpy>
@@ -260,6 +261,13 @@ class MultiFileWindowTest : public QObject {
       orders.insert({cell(0, Model::FileName), cell(1, Model::FileName), cell(2, Model::FileName)});
     }
     QVERIFY(orders.size() >= 3);
+    // The same from the keyboard: Edit > Sort By; again turns the order round.
+    QMenu* sortMenu = window_->actions().sortMenu;
+    sortMenu->actions().at(Model::DateTime - Model::FileName)->trigger();
+    QCOMPARE(header->sortIndicatorSection(), int(Model::DateTime));
+    sortMenu->actions().at(Model::DateTime - Model::FileName)->trigger();
+    QCOMPARE(doc().sortDescriptors().front().ascending, false);
+    QCOMPARE(table.selectionModel()->selectedRows().front().row(), rowOf("b.jpg"));
     // The header's state is kept, and a new window sorts as it was left.
     const auto last = doc().sortDescriptors().front();
     QVERIFY(!settings_->tableLayout().isEmpty());
