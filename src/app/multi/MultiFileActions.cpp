@@ -68,7 +68,8 @@ WindowMenuActions MultiFileActions::menuActions() const {
   own.save = save;
   own.saveAll = saveAll;
   own.selectAll = selectAll;
-  own.edit = {markAll, markNone, markSelected, unmarkSelected, nullptr, restoreSelected, restoreAll, nullptr, sortMenu->menuAction()};
+  own.edit = {markAll,         markNone,   markSelected, unmarkSelected,         nullptr,
+              restoreSelected, restoreAll, nullptr,      sortMenu->menuAction()};
   return own;
 }
 

@@ -239,5 +239,6 @@ void MultiFileWindow::saveAllForClose(bool quitting) {
 void MultiFileWindow::changeEvent(QEvent* event) {
   DocumentWindow::changeEvent(event);
   // The inspector follows the file selected in the active window.
-  if (event->type() == QEvent::ActivationChange && isActiveWindow()) document_->setSelectedRows(document_->selectedRows(), true);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow())
+    document_->setSelectedRows(document_->selectedRows(), true);
 }

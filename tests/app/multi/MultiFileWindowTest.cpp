@@ -338,7 +338,8 @@ class MultiFileWindowTest : public QObject {
 
   void thumbnailsAreMadeForTheRowsInView() {
     std::vector<Photo> photos;
-    for (int i = 0; i < 300; ++i) photos.push_back({QString("p%1.jpg").arg(i, 3, 10, QChar('0')).toStdString(), {kA, kA, kA}});
+    for (int i = 0; i < 300; ++i)
+      photos.push_back({QString("p%1.jpg").arg(i, 3, 10, QChar('0')).toStdString(), {kA, kA, kA}});
     open(photos);
     const auto cached = [&](int row) {
       return window_->thumbnails().contains(window_->model().index(row, 0).data(Model::PathRole).toString());
