@@ -13,6 +13,7 @@
 #include "app/Prompts.h"
 #include "app/loading/LoadProgressWindow.h"
 #include "app/preferences/Settings.h"
+#include "app/multi/MultiFileWindow.h"
 #include "app/single/SingleFileWindow.h"
 #include "documents/LumMultiFileDoc.h"
 #include "documents/LumSingleFileDoc.h"
@@ -20,8 +21,12 @@
 
 DocumentController::DocumentController(AppContext& context, QUndoGroup& undoGroup, QObject* parent)
     : QObject(parent), context_(context), undoGroup_(undoGroup) {
+  // The windows have no parent: each deletes itself when closed.
   makeSingleWindow_ = [](std::unique_ptr<LumSingleFileDoc> document, AppContext& context) -> DocumentWindow* {
     return new SingleFileWindow(std::move(document), context);
+  };
+  makeMultiWindow_ = [](std::unique_ptr<LumMultiFileDoc> document, AppContext& context) -> DocumentWindow* {
+    return new MultiFileWindow(std::move(document), context);
   };
   AppActions& actions = context_.actions;
   connect(actions.open, &QAction::triggered, this, &DocumentController::openDocument);

@@ -12,7 +12,6 @@
 #include "app/AppContext.h"
 #include "app/DocumentController.h"
 #include "app/preferences/Settings.h"
-#include "app/startup/MultiWindowWiring.h"
 #include "app/startup/SingleInstance.h"
 #include "app/startup/Translations.h"
 
@@ -104,7 +103,6 @@ void AppStartup::makeDocumentController() {
   actions_ = std::make_unique<AppActions>(undoGroup_);
   context_ = std::make_unique<AppContext>(AppContext{*settings_, prompts_, *actions_});
   controller_ = std::make_unique<DocumentController>(*context_, undoGroup_);
-  controller_->setMultiWindowFactory(multiWindowFactory());
   connect(controller_.get(), &DocumentController::quitReviewFinished, this, [](bool quit) {
     if (quit) QCoreApplication::quit();
   });
