@@ -38,11 +38,15 @@ LumSingleFileDoc::~LumSingleFileDoc() {
 bool LumSingleFileDoc::readFromURL(const std::filesystem::path& url, std::string_view /*type*/, LumError* error) {
   std::unique_ptr<LumImageFile> file = LumImageFile::imageFileWithURL(url, error);
   if (!file) return false;
+  readFromImageFile(url, std::move(file));
+  return true;
+}
+
+void LumSingleFileDoc::readFromImageFile(const std::filesystem::path& url, std::unique_ptr<LumImageFile> file) {
   fileURL_ = url;
   replaceImageFile(std::move(file));
   undoStack_.clear();
   updateUI();
-  return true;
 }
 
 void LumSingleFileDoc::replaceImageFile(std::unique_ptr<LumImageFile> file) {

@@ -69,6 +69,9 @@ class LumSingleFileDoc : public QObject, public LumImageFileOwner, private OrbDa
   // a photo. On success the document owns the file and its pickers show the
   // file's dates (updateUI).
   bool readFromURL(const std::filesystem::path& url, std::string_view type, LumError* error);
+  // The same with a file already read elsewhere (an opening reads files in
+  // the background).
+  void readFromImageFile(const std::filesystem::path& url, std::unique_ptr<LumImageFile> file);
 
   // --- Pickers and buttons ----------------------------------------------------
   OrbDatePicker& picker(DateTargets::Index which) { return *pickers_[which]; }

@@ -188,6 +188,11 @@ class LumImageFile {
   // none and the file has an owner with a path; the placeholder when the
   // image cannot be decoded.
   void makeThumbnail();
+  // The same thumbnail, read from the file at url and handed back without
+  // being kept (a long list keeps its thumbnails in a bounded cache
+  // instead); the placeholder when the image cannot be decoded. Touches
+  // neither the owner nor the stored thumbnail, so any thread may call it.
+  std::shared_ptr<const lum::Bitmap> readThumbnail(const std::filesystem::path& url) const;
   // The thumbnail of a file's bytes: its own Exif thumbnail when that comes
   // out at exactly the size the main image would get, else the main image
   // decoded and reduced; nullptr when neither can be made.

@@ -96,14 +96,16 @@ std::shared_ptr<const lum::Bitmap> LumImageFile::thumbnailOfBytes(orb::ByteView 
 
 void LumImageFile::makeThumbnail() {
   if (thumbnail()) return;
-  const auto url = fileURL();
-  if (!url) return;
+  if (const auto url = fileURL()) setThumbnail(readThumbnail(*url));
+}
+
+std::shared_ptr<const lum::Bitmap> LumImageFile::readThumbnail(const std::filesystem::path& url) const {
   // Read now, and only while the file is still the one opened: another
   // program may have changed it since, and this thumbnail must show what the
   // dates belong to. A camera's thumbnail lies in the file's first bytes;
   // only without one is the whole file read.
   const auto read = [&](std::size_t length) {
-    return stamp_ ? lum::FileData::readIfUnchanged(*url, *stamp_, length) : lum::FileData::readHead(*url, length);
+    return stamp_ ? lum::FileData::readIfUnchanged(url, *stamp_, length) : lum::FileData::readHead(url, length);
   };
   std::shared_ptr<const lum::Bitmap> result;
   if (const auto head = read(kHeadBytes[1])) {
@@ -112,5 +114,5 @@ void LumImageFile::makeThumbnail() {
     if (!result && !head->holdsWholeFile())
       if (const auto whole = read(lum::FileData::kWholeFile)) result = thumbnailOfBytes(whole->bytes());
   }
-  setThumbnail(result ? result : errorImage());
+  return result ? result : errorImage();
 }

@@ -49,9 +49,13 @@ TEST(LumImageFileThumbnail, TheCamerasThumbnailOnlyWhenItGivesTheSameSize) {
     lumtest::PathOwner owner;
     owner.path = temp.path();
     file->setOwnerDocument(&owner);
+    // Read without being kept, then made and kept: the same picture.
+    const auto read = file->readThumbnail(temp.path());
+    EXPECT_FALSE(file->thumbnail());
     file->makeThumbnail();
     const auto thumb = file->thumbnail();
-    ASSERT_TRUE(thumb && thumb->isConsistent());
+    ASSERT_TRUE(thumb && thumb->isConsistent() && read);
+    EXPECT_EQ(read->pixels, thumb->pixels);
     EXPECT_EQ(std::pair(thumb->width, thumb->height), std::pair(c.width, c.height));
     const std::uint8_t centre = thumb->pixels[static_cast<std::size_t>(thumb->height / 2 * thumb->bytesPerRow +
                                                                        thumb->width / 2 * thumb->componentsPerPixel())];

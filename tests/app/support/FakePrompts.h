@@ -3,7 +3,9 @@
 // takes the answer the test put in place, and every alert is recorded.
 
 #include <deque>
+#include <functional>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "app/Prompts.h"
@@ -16,6 +18,7 @@ class FakePrompts : public Prompts {
   int openStyleQuestions = 0;
   std::vector<std::size_t> askedCounts;
   std::vector<Alert> alerts;
+  std::function<void()> onAlert;  // runs when an alert comes up
 
   std::optional<OpenRequest> chooseFilesToOpen(QWidget*, bool) override {
     ++openDialogs;
@@ -26,5 +29,8 @@ class FakePrompts : public Prompts {
     askedCounts.push_back(count);
     return nextOpenStyle;
   }
-  void showCriticalAlert(QWidget*, const Alert& alert) override { alerts.push_back(alert); }
+  void showCriticalAlert(QWidget*, const Alert& alert) override {
+    alerts.push_back(alert);
+    if (onAlert) onAlert();
+  }
 };

@@ -1,0 +1,71 @@
+#include "app/multi/FileTableView.h"
+
+#include <QContextMenuEvent>
+#include <QHeaderView>
+#include <QScrollBar>
+
+#include "app/multi/FileTableModel.h"
+
+FileTableView::FileTableView(QWidget* parent) : QTableView(parent) {
+  setSelectionBehavior(QAbstractItemView::SelectRows);
+  setSelectionMode(QAbstractItemView::ExtendedSelection);
+  setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
+                  QAbstractItemView::SelectedClicked);
+  setAlternatingRowColors(true);
+  setWordWrap(false);
+  setTabKeyNavigation(false);  // Tab leaves the table for the path field
+  verticalHeader()->hide();
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  QHeaderView* header = horizontalHeader();
+  header->setSectionsClickable(true);
+  header->setSectionsMovable(true);
+  header->setSortIndicatorShown(true);
+  header->setHighlightSections(false);
+  header->setStretchLastSection(false);
+  connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &FileTableView::shownRowsMayHaveChanged);
+}
+
+void FileTableView::applyRowHeight(int rowHeight, int thumbnailWidth) {
+  verticalHeader()->setMinimumSectionSize(std::min(rowHeight, verticalHeader()->minimumSectionSize()));
+  verticalHeader()->setDefaultSectionSize(rowHeight);
+  QHeaderView* header = horizontalHeader();
+  const int gained = header->sectionSize(FileTableModel::Thumbnail) - thumbnailWidth;
+  header->setSectionResizeMode(FileTableModel::Thumbnail, QHeaderView::Fixed);
+  header->resizeSection(FileTableModel::Thumbnail, thumbnailWidth);
+  const int name = header->sectionSize(FileTableModel::FileName);
+  header->resizeSection(FileTableModel::FileName, std::max(header->minimumSectionSize(), name + gained));
+  emit shownRowsMayHaveChanged();
+}
+
+std::pair<int, int> FileTableView::shownRows() const {
+  const int count = model() ? model()->rowCount() : 0;
+  if (count == 0) return {0, -1};
+  const int first = std::max(0, rowAt(0));
+  const int bottom = rowAt(viewport()->height() - 1);
+  return {first, bottom < 0 ? count - 1 : bottom};
+}
+
+void FileTableView::contextMenuEvent(QContextMenuEvent* event) {
+  std::optional<int> row;
+  QPoint at = event->globalPos();
+  if (event->reason() == QContextMenuEvent::Mouse) {
+    const int clicked = rowAt(event->pos().y());
+    if (clicked >= 0) row = clicked;
+  } else if (currentIndex().isValid()) {
+    row = currentIndex().row();
+    at = viewport()->mapToGlobal(visualRect(currentIndex()).center());
+  }
+  emit contextMenuAsked(row, at);
+  event->accept();
+}
+
+void FileTableView::resizeEvent(QResizeEvent* event) {
+  QTableView::resizeEvent(event);
+  emit shownRowsMayHaveChanged();
+}
+
+void FileTableView::dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight, const QList<int>& roles) {
+  QTableView::dataChanged(topLeft, bottomRight, roles);
+  // A sort moves other files into view; a thumbnail alone does not.
+  if (!roles.contains(FileTableModel::ThumbnailPendingRole)) emit shownRowsMayHaveChanged();
+}
