@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
+#include <QStyle>
 #include <QStyleFactory>
 #include <QWidget>
 
@@ -60,7 +61,7 @@ QString Session::shoot(const QString& name, QWidget& window, QWidget* overlay) {
   if (overlay) {
     QPainter painter(&picture);
     const QPoint at = overlayPosition(window, *overlay);
-    painter.fillRect(QRect(QPoint(0, 0), window.size()), QColor(0, 0, 0, 60));  // the window is blocked
+    painter.fillRect(QRect(QPoint(0, 0), window.size()), QColor(0, 0, 0, 35));  // the window is blocked
     painter.drawPixmap(at, overlay->grab());
   }
   const QString path = outputDir_.filePath(name + QStringLiteral(".png"));
