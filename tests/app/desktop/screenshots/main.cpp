@@ -161,9 +161,6 @@ int main(int argc, char** argv) {
   OneWindowPrompts prompts;
   AppContext context{settings, prompts, actions};
   DocumentController controller(context, undoGroup);
-  controller.setMultiWindowFactory([](std::unique_ptr<LumMultiFileDoc> doc, AppContext& c) -> DocumentWindow* {
-    return new MultiFileWindow(std::move(doc), c);
-  });
 
   Screenshots::Session session{QDir(args[2])};
   // The unreadable sample is reported once the others are read.
