@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # check-desktop-files.sh SOURCE_DIR BUILD_DIR: the .desktop entry and the
-# AppStream metainfo pass their validators, and installing the desktop
-# component into an empty prefix places every file where desktops look.
+# AppStream metainfo pass their validators, and installing into an empty
+# prefix places the programs and every desktop file where desktops look.
 set -euo pipefail
 src=$1 build=$2
 id=org.lumidate.Lumidate
@@ -12,12 +12,16 @@ done
 desktop-file-validate "$src/resources/$id.desktop"
 appstreamcli validate --no-net "$src/resources/$id.metainfo.xml"
 
-cmake --build "$build" --target lumidate_icons >/dev/null
+# Everything an install copies must exist (a no-op when it is built).
+cmake --build "$build" --target lumidate lumidate-cli lumidate_icons >/dev/null
 prefix=$(mktemp -d)
 trap 'rm -rf "$prefix"' EXIT
-cmake --install "$build" --component desktop --prefix "$prefix" >/dev/null
+cmake --install "$build" --prefix "$prefix" >/dev/null
 
+program=$(sed -n 's/^Exec=\([^ ]*\).*/\1/p' "$src/resources/$id.desktop")
 expected=(
+  "bin/$program"
+  "bin/lumidate-cli"
   "share/applications/$id.desktop"
   "share/metainfo/$id.metainfo.xml"
   "share/icons/hicolor/scalable/apps/$id.svg"
