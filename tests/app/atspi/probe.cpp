@@ -1,7 +1,7 @@
 // A small window that the AT-SPI harness drives to check its own plumbing:
 // a combo box, a spin box, a button and a menu, each with an accessible
 // name. Pressing the button prints the combo's text and the spin's value
-// and quits, so the harness can check what it typed and chose.
+// on standard output, so the harness can check what it typed and chose.
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>

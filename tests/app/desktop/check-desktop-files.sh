@@ -40,7 +40,9 @@ done
 for size in 16 48 256; do
   png="$prefix/share/icons/hicolor/${size}x${size}/apps/$id.png"
   [[ -s "$png" ]] || continue
-  read -r w h < <(od -An -tu1 -j16 -N8 "$png" | awk '{print $1*16777216+$2*65536+$3*256+$4, $5*16777216+$6*65536+$7*256+$8}')
+  # Width and height: two big-endian 32-bit numbers at byte 16 of a PNG.
+  read -r w h < <(od -An -tu1 -j16 -N8 "$png" |
+                  awk '{print $1*16777216+$2*65536+$3*256+$4, $5*16777216+$6*65536+$7*256+$8}')
   if [[ "$w" != "$size" || "$h" != "$size" ]]; then
     echo "$png is ${w}x${h}, expected ${size}x${size}" >&2
     status=1
