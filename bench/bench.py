@@ -25,6 +25,7 @@ def parse_args(argv):
     p.add_argument("--cli", required=True, help="path of lumidate-cli")
     p.add_argument("--floor", required=True, help="path of the floor program")
     p.add_argument("--model", help="path of the document-model benchmark, when built")
+    p.add_argument("--window", help="path of the window benchmark, when built")
     p.add_argument("--results", help="Markdown file to write the results to")
     p.add_argument("--command", default="bench/run", help="the command line, for the record")
     p.add_argument("--note", default="", help="a line about the conditions of this run")
@@ -138,6 +139,52 @@ def run_model_bench(model, cli, scratch, runs):
     return data, ""
 
 
+def timed(argv, cwd=None):
+    start = time.monotonic()
+    done = subprocess.run(argv, cwd=cwd, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    return time.monotonic() - start, done.returncode
+
+
+def fresh_copy(source, target):
+    shutil.rmtree(target, ignore_errors=True)
+    shutil.copytree(source, target)
+    subprocess.run(["sync"])
+    return target
+
+
+def run_window_bench(window, cli, scratch, runs):
+    """Runs the window benchmark `runs` times on a fresh copy of the small
+    set (its Save All changes the files). Beside each run, on the same files,
+    `lumidate-cli dates` (what loading is compared with) and `lumidate-cli
+    shift --hours 1` on another fresh copy (what Save All is compared with)."""
+    if not window or not os.path.exists(window):
+        return None, "Not measured: the window benchmark is not built."
+    small = os.path.join(scratch, "sets", "small")
+    work = os.path.join(scratch, "window")
+    print("== the multi-file window", flush=True)
+    samples, listings, shifts = [], [], []
+    for run in range(1, runs + 1):
+        copy = fresh_copy(small, work)
+        listings.append(timed([cli, "dates", copy])[0])
+        seconds, code = timed([cli, "shift", "--hours", "1", copy])
+        if code != 0:
+            return None, "Not measured: lumidate-cli shift failed beside the window (exit %d)" % code
+        shifts.append(seconds)
+        copy = fresh_copy(small, work)
+        done = subprocess.run([window, "--set", copy], capture_output=True, text=True)
+        if done.returncode != 0:
+            tail = (done.stderr.strip().splitlines() or [""])[-1]
+            return None, "Not measured: the window benchmark failed (exit %d): %s" % (done.returncode, tail)
+        samples.append(json.loads(done.stdout))
+        print("    run %d: rows shown %.3f s (dates %.3f s), Save All %.3f s (shift %.3f s)" % (
+            run, samples[-1]["first_rows_s"], listings[-1], samples[-1]["save_all_s"], shifts[-1]), flush=True)
+    shutil.rmtree(work, ignore_errors=True)
+    data = report.median_record(samples)
+    data["dates_beside_s"] = statistics.median(listings)
+    data["shift_beside_s"] = statistics.median(shifts)
+    return data, ""
+
+
 def main(argv):
     args = parse_args(argv)
     repo = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
@@ -182,7 +229,9 @@ def main(argv):
             args.runs, os.path.join(args.scratch, "work"), log_dir, shifting=True)
 
     results["model"], model_note = run_model_bench(args.model, args.cli, args.scratch, args.runs)
+    results["window"], window_note = run_window_bench(args.window, args.cli, args.scratch, args.runs)
     record = {"results": results, "sets": set_lines, "command": args.command, "model_note": model_note,
+              "window_note": window_note,
               "machine": machine_description(args.scratch, repo, load_at_start, args.note)}
     with open(os.path.join(args.scratch, "results.json"), "w") as f:
         json.dump(record, f, indent=1)
@@ -194,7 +243,7 @@ def write_report(record, repo, results_path):
     notes_path = os.path.join(repo, "bench", "notes.md")
     notes = open(notes_path).read() if os.path.exists(notes_path) else ""
     text = report.render(record["results"], record["machine"], record["sets"], record["command"],
-                         record["model_note"], notes)
+                         record["model_note"], notes, record.get("window_note", ""))
     print()
     print(text)
     if results_path:

@@ -189,7 +189,39 @@ def model_summary(m):
     return text
 
 
-def render(results, machine, sets, command, model_note, notes=""):
+def window_rows(w):
+    """The window's figures against their goals."""
+    def ms(key):
+        return w.get(key) * 1000 if w.get(key) is not None else None
+    return [
+        goal("window: all %s rows shown / lumidate-cli dates (≤ 1.5x)" % w.get("files", "the"),
+             ratio(w.get("first_rows_s"), w.get("dates_beside_s")), 1.5, True),
+        goal("window: longest GUI stall while loading (< 50 ms)", ms("load_stall_s"), 50.0, True, unit="ms"),
+        goal("window: longest GUI stall, fast scroll with thumbnails (< 50 ms)", ms("scroll_stall_s"), 50.0,
+             True, unit="ms"),
+        goal("window: apply of 1 h with the view's update (< 100 ms)", ms("apply_s"), 100.0, True, unit="ms"),
+        goal("window: undo with the view's update (< 100 ms)", ms("undo_s"), 100.0, True, unit="ms"),
+        goal("window: sort, slowest column, with the view's update (< 100 ms)", ms("sort_max_s"), 100.0, True,
+             unit="ms"),
+        goal("window: Save All / lumidate-cli shift (≤ 1.2x)", ratio(w.get("save_all_s"), w.get("shift_beside_s")),
+             1.2, True),
+        goal("window: peak RSS, every thumbnail seen once (< 400 MB)", w.get("peak_rss_thumbs_mib"), 400.0, True,
+             unit="MB"),
+    ]
+
+
+def window_summary(w):
+    return ("Measured by `lumidate-bench-window`: the real multi-file window on the offscreen platform, "
+            "opened through the document controller on a fresh copy of the small set (%s files). All rows "
+            "shown after %.3f s (from the program's start %.3f s), `lumidate-cli dates` beside it %.3f s. "
+            "Save All %.3f s, `lumidate-cli shift --hours 1` on another fresh copy beside it %.3f s. "
+            "Peak RSS %.0f MB after every thumbnail was seen once, %.0f MB at the end." % (
+                w.get("files"), w.get("first_rows_s", 0), w.get("first_rows_from_start_s", 0),
+                w.get("dates_beside_s", 0), w.get("save_all_s", 0), w.get("shift_beside_s", 0),
+                w.get("peak_rss_thumbs_mib", 0), w.get("peak_rss_mib", 0)))
+
+
+def render(results, machine, sets, command, model_note, notes="", window_note=""):
     out = ["# Benchmark results", "",
            "Written by `%s` on %s. Lumidate %s." % (command, machine["date"], machine["commit"]),
            "Per-file cost is a whole process's wall time over the set divided by its number of",
@@ -217,8 +249,11 @@ def render(results, machine, sets, command, model_note, notes=""):
             out.append(markdown_table(header, section_rows(kind, set_result)))
     model = results.get("model")
     out += ["", "## Document model and thumbnails", "", model_summary(model) if model else model_note]
+    window = results.get("window")
+    out += ["", "## Desktop window", "", window_summary(window) if window else (window_note or "Not measured.")]
     out += ["", "## Goals", ""]
-    out.append(markdown_table(["goal", "measured", "status"], goal_rows(results)))
+    out.append(markdown_table(["goal", "measured", "status"],
+                              goal_rows(results) + (window_rows(window) if window else [])))
     if notes.strip():
         out += ["", "## Notes", "", notes.strip()]
     out.append("")

@@ -72,8 +72,13 @@ QVariant FileTableModel::dateData(int row, int column, int role) const {
 }
 
 QVariant FileTableModel::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= ColumnCount) return {};
-  return LumLocalized::text(kKeys[static_cast<std::size_t>(section)].data());
+  if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount) return {};
+  const QString title = LumLocalized::text(kKeys[static_cast<std::size_t>(section)].data());
+  // The thumbnail column is as narrow as its pictures: its title would be
+  // clipped, so it is given to the tooltip and to screen readers only.
+  if (section == Thumbnail && role == Qt::DisplayRole) return QString();
+  if (role == Qt::DisplayRole || role == Qt::ToolTipRole || role == Qt::AccessibleTextRole) return title;
+  return {};
 }
 
 Qt::ItemFlags FileTableModel::flags(const QModelIndex& index) const {

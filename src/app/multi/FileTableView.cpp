@@ -28,12 +28,12 @@ FileTableView::FileTableView(QWidget* parent) : QTableView(parent) {
 void FileTableView::applyRowHeight(int rowHeight, int thumbnailWidth) {
   verticalHeader()->setMinimumSectionSize(std::min(rowHeight, verticalHeader()->minimumSectionSize()));
   verticalHeader()->setDefaultSectionSize(rowHeight);
+  // The file-name column stretches, so it takes what the thumbnail column
+  // gives up or gains and the table always fills its width.
   QHeaderView* header = horizontalHeader();
-  const int gained = header->sectionSize(FileTableModel::Thumbnail) - thumbnailWidth;
   header->setSectionResizeMode(FileTableModel::Thumbnail, QHeaderView::Fixed);
   header->resizeSection(FileTableModel::Thumbnail, thumbnailWidth);
-  const int name = header->sectionSize(FileTableModel::FileName);
-  header->resizeSection(FileTableModel::FileName, std::max(header->minimumSectionSize(), name + gained));
+  header->setSectionResizeMode(FileTableModel::FileName, QHeaderView::Stretch);
   emit shownRowsMayHaveChanged();
 }
 
