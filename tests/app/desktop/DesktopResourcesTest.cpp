@@ -1,6 +1,7 @@
 // The resources the app embeds: the window icons and the compiled English
 // translation, which must carry every user-visible key with the same
 // placeholders as the built-in English formats.
+#include <QDirIterator>
 #include <QFile>
 #include <QImage>
 #include <QRegularExpression>
@@ -97,6 +98,29 @@ class DesktopResourcesTest : public QObject {
     for (const LumLocalized::EnglishFormat& f : LumLocalized::kEnglishFormats)
       QVERIFY2(sources.contains(QString::fromUtf8(f.key.data(), static_cast<qsizetype>(f.key.size()))),
                f.key.data());
+  }
+
+  // A key written in the code but missing from the .ts file would show
+  // untranslated in every other language.
+  void everyKeyInTheCodeIsListed() {
+    QSet<QString> sources;
+    for (const TsMessage& m : readTsFile(QStringLiteral(LUMIDATE_TS_FILE))) sources.insert(m.source);
+    static const QRegularExpression lookup(
+        QStringLiteral("LumLocalized::(?:text|format)\\(\"((?:[^\"\\\\]|\\\\.)*)\""));
+    int keys = 0;
+    QDirIterator files(QStringLiteral(LUMIDATE_SOURCE_DIR "/src"), {QStringLiteral("*.cpp"), QStringLiteral("*.h")},
+                       QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+      QFile file(files.next());
+      QVERIFY(file.open(QIODevice::ReadOnly));
+      const QString code = QString::fromUtf8(file.readAll());
+      for (const QRegularExpressionMatch& m : lookup.globalMatch(code)) {
+        const QString key = m.captured(1).replace(QLatin1String("\\\""), QLatin1String("\""));
+        QVERIFY2(sources.contains(key), qPrintable(files.filePath() + QStringLiteral(": ") + key));
+        ++keys;
+      }
+    }
+    QVERIFY(keys > 10);
   }
 
   // With the translation installed, lookups through the documents layer
