@@ -1,0 +1,73 @@
+#include "ScreenshotSession.h"
+
+#include <QApplication>
+#include <QFont>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmap>
+#include <QStyle>
+#include <QStyleFactory>
+#include <QWidget>
+
+#include <algorithm>
+
+namespace Screenshots {
+
+namespace {
+
+QPalette darkPalette() {
+  QPalette p;
+  const QColor window(0x2b, 0x2d, 0x31), base(0x1e, 0x1f, 0x22), text(0xe6, 0xe6, 0xe6);
+  p.setColor(QPalette::Window, window);
+  p.setColor(QPalette::WindowText, text);
+  p.setColor(QPalette::Base, base);
+  p.setColor(QPalette::AlternateBase, window);
+  p.setColor(QPalette::Text, text);
+  p.setColor(QPalette::Button, window);
+  p.setColor(QPalette::ButtonText, text);
+  p.setColor(QPalette::ToolTipBase, base);
+  p.setColor(QPalette::ToolTipText, text);
+  p.setColor(QPalette::Highlight, QColor(0x35, 0x74, 0xc6));
+  p.setColor(QPalette::HighlightedText, Qt::white);
+  p.setColor(QPalette::PlaceholderText, QColor(0x8a, 0x8d, 0x93));
+  for (auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    p.setColor(QPalette::Disabled, role, QColor(0x7a, 0x7d, 0x83));
+  return p;
+}
+
+// Where overlay stands inside window, or centred near the top when the
+// platform placed it elsewhere.
+QPoint overlayPosition(const QWidget& window, const QWidget& overlay) {
+  const QPoint at = overlay.frameGeometry().topLeft() - window.frameGeometry().topLeft();
+  const QRect inside(QPoint(0, 0), window.size());
+  if (inside.contains(QRect(at, overlay.size()))) return at;
+  return {(window.width() - overlay.width()) / 2, std::min(40, std::max(0, window.height() - overlay.height()))};
+}
+
+}  // namespace
+
+void useStableLook(bool dark) {
+  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QFont font(QStringLiteral("DejaVu Sans"));
+  font.setPointSize(9);
+  QApplication::setFont(font);
+  QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
+}
+
+Session::Session(QDir outputDir) : outputDir_(std::move(outputDir)) { outputDir_.mkpath(QStringLiteral(".")); }
+
+QString Session::shoot(const QString& name, QWidget& window, QWidget* overlay) {
+  QPixmap picture = window.grab();
+  if (overlay) {
+    QPainter painter(&picture);
+    const QPoint at = overlayPosition(window, *overlay);
+    painter.fillRect(QRect(QPoint(0, 0), window.size()), QColor(0, 0, 0, 35));  // the window is blocked
+    painter.drawPixmap(at, overlay->grab());
+  }
+  const QString path = outputDir_.filePath(name + QStringLiteral(".png"));
+  if (!picture.save(path)) return {};
+  ++written_;
+  return path;
+}
+
+}  // namespace Screenshots

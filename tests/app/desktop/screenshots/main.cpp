@@ -1,0 +1,188 @@
+// lumidate-screenshots SAMPLES OUTPUT_DIR: pictures of the real windows in
+// their main states, made on the offscreen platform. The files are opened
+// through the document controller as the program does; alerts come from
+// the program's own dialogs and are pictured the moment they show.
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QMessageBox>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <QUndoGroup>
+
+#include <cstdio>
+#include <filesystem>
+#include <functional>
+
+#include "ScreenshotSession.h"
+#include "app/AppActions.h"
+#include "app/DialogPrompts.h"
+#include "app/DocumentController.h"
+#include "app/multi/MultiFileActions.h"
+#include "app/multi/MultiFileWindow.h"
+#include "app/preferences/Settings.h"
+#include "app/sheets/SavingSheet.h"
+#include "documents/LumMultiFileDoc.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kWaitMs = 20000;
+constexpr int kPictures = 9;
+
+// The program's dialogs, except that a handed-over folder opens in one
+// window without asking.
+class OneWindowPrompts : public DialogPrompts {
+ public:
+  OpenStyle askHowToOpen(std::size_t) override { return OpenStyle::OneWindow; }
+};
+
+// Runs shoot on the next application-modal dialog the moment it shows, then
+// accepts it, so a dialog run with exec() does not block the pictures.
+void whenModalShows(std::function<void(QWidget&)> shoot) {
+  auto* poll = new QTimer(qApp);
+  QObject::connect(poll, &QTimer::timeout, poll, [poll, shoot] {
+    QWidget* modal = QApplication::activeModalWidget();
+    auto* box = qobject_cast<QMessageBox*>(modal);
+    if (!box || !box->isVisible()) return;
+    poll->deleteLater();
+    shoot(*box);
+    box->accept();
+  });
+  poll->start(20);
+}
+
+bool waitFor(const std::function<bool()>& done, const char* what) {
+  if (QTest::qWaitFor(done, kWaitMs)) return true;
+  std::fprintf(stderr, "lumidate-screenshots: gave up waiting for %s\n", what);
+  return false;
+}
+
+bool thumbnailsShown(const MultiFileWindow& window) {
+  MultiFileWindow& w = const_cast<MultiFileWindow&>(window);
+  for (int row = 0; row < w.document().rowCount(); ++row) {
+    const LumFileItemDoc& item = w.document().item(row);
+    if (item.path().filename() == "broken.jpg") continue;
+    if (!window.thumbnails().contains(QString::fromStdString(item.path().string()))) return false;
+  }
+  return true;
+}
+
+struct Stage {
+  Settings& settings;
+  DocumentController& controller;
+  MultiFileWindow& window;
+  Screenshots::Session& session;
+};
+
+void shootListSizes(Stage& s) {
+  const std::pair<int, const char*> sizes[] = {{1, "multi-small"}, {3, "multi-large"}, {2, "multi-medium"}};
+  for (const auto& [size, name] : sizes) {
+    s.controller.changeListSize(size);
+    waitFor([&] { return thumbnailsShown(s.window); }, "the thumbnails");
+    s.session.shoot(name, s.window);
+  }
+}
+
+void shootDark(Stage& s) {
+  Screenshots::useStableLook(true);
+  waitFor([&] { return s.window.palette().color(QPalette::Window).lightness() < 128; }, "dark colours");
+  s.session.shoot(QStringLiteral("multi-dark"), s.window);
+  Screenshots::useStableLook(false);
+}
+
+void shootRangeWarning(Stage& s) {
+  LumMultiFileDoc& doc = s.window.document();
+  doc.changeActionMode(LumActionMode::Backward);
+  doc.setFieldValue(LumMultiFileDoc::Year, 2000);
+  waitFor([&] { return !doc.validateApllyButton().enabled; }, "the range warning");
+  s.session.shoot(QStringLiteral("multi-range-warning"), s.window);
+  doc.changeActionMode(LumActionMode::Forward);
+  doc.pClearChangeByTimeIntervalFields();
+}
+
+void shootSavingSheet(Stage& s) {
+  SavingSheet& sheet = s.window.savingSheet();
+  sheet.start();
+  const LumFileItemDoc& item = s.window.document().item(1);
+  sheet.setProgress(40, QString::fromStdString(item.path().string()));
+  waitFor([&] { return sheet.isVisible(); }, "the saving sheet");
+  s.session.shoot(QStringLiteral("multi-saving-sheet"), s.window, &sheet);
+  sheet.finish();
+}
+
+// Shifts every file by an hour, takes one file away behind the window's
+// back, and saves: the save reports the file it could not write.
+void shootSaveFailure(Stage& s) {
+  LumMultiFileDoc& doc = s.window.document();
+  doc.setFieldValue(LumMultiFileDoc::Hour, 1);
+  doc.applyToAllFiles();
+  fs::remove(doc.item(1).path());
+  bool shown = false;
+  whenModalShows([&](QWidget& alert) {
+    s.session.shoot(QStringLiteral("multi-save-failure-alert"), s.window, &alert);
+    shown = true;
+  });
+  s.window.actions().saveAll->trigger();
+  waitFor([&] { return shown; }, "the save failure alert");
+}
+
+void shootCloseSheet(Stage& s) {
+  s.window.askToSaveAndQuitApp(false);
+  waitFor([&] { return s.window.closeSheet() && s.window.closeSheet()->isVisible(); }, "the close sheet");
+  if (QMessageBox* sheet = s.window.closeSheet()) {
+    s.session.shoot(QStringLiteral("multi-close-sheet"), s.window, sheet);
+    if (auto* cancel = sheet->findChild<QAbstractButton*>(QStringLiteral("cancelButton"))) cancel->click();
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication app(argc, argv);
+  const QStringList args = QApplication::arguments();
+  if (args.size() != 3) {
+    std::fprintf(stderr, "usage: lumidate-screenshots SAMPLES OUTPUT_DIR\n");
+    return 2;
+  }
+  Screenshots::useStableLook(false);
+
+  QTemporaryDir scratch;
+  const fs::path photos = fs::path(scratch.path().toStdString()) / "samples";
+  fs::copy(args[1].toStdString(), photos, fs::copy_options::recursive);
+  QSettings store(scratch.filePath(QStringLiteral("settings.ini")), QSettings::IniFormat);
+  Settings settings(store);
+  QUndoGroup undoGroup;
+  AppActions actions(undoGroup);
+  OneWindowPrompts prompts;
+  AppContext context{settings, prompts, actions};
+  DocumentController controller(context, undoGroup);
+
+  Screenshots::Session session{QDir(args[2])};
+  // The unreadable sample is reported once the others are read.
+  whenModalShows([&](QWidget& alert) { session.shoot(QStringLiteral("open-failure-alert"), alert); });
+  controller.openFiles({photos}, true);
+  MultiFileWindow* window = nullptr;
+  waitFor([&] {
+    for (DocumentWindow* w : controller.windows())
+      if ((window = qobject_cast<MultiFileWindow*>(w))) return !controller.isDocumentOpening();
+    return false;
+  }, "the multi-file window");
+  if (!window) return 1;
+  window->resize(1000, 640);
+
+  Stage stage{settings, controller, *window, session};
+  shootListSizes(stage);
+  shootDark(stage);
+  shootRangeWarning(stage);
+  shootSavingSheet(stage);
+  shootSaveFailure(stage);
+  shootCloseSheet(stage);
+  std::printf("%d pictures in %s\n", session.written(), qPrintable(args[2]));
+  for (DocumentWindow* w : controller.windows()) delete w;
+  return session.written() == kPictures ? 0 : 1;
+}
