@@ -57,5 +57,5 @@ void LoadProgressWindow::setProgress(std::size_t done, std::size_t total) {
   percent_->setText(QStringLiteral("%1 %").arg(percent));
   const QLocale locale;
   counts_->setText(
-      QStringLiteral("%1 / %2").arg(locale.toString(qulonglong(done)), locale.toString(qulonglong(total))));
+      LumLocalized::format("%@ / %lu", locale.toString(qulonglong(done)), locale.toString(qulonglong(total))));
 }

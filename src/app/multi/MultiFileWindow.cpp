@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QItemSelection>
+#include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -82,9 +84,14 @@ void MultiFileWindow::buildLayout() {
   path_->setObjectName("pathField");
   path_->setAccessibleName(tr("Path"));
   path_->setReadOnly(true);
+  auto* pathLabel = new QLabel(tr("&Path:"), central);
+  pathLabel->setBuddy(path_);
+  auto* pathRow = new QHBoxLayout;
+  pathRow->addWidget(pathLabel);
+  pathRow->addWidget(path_, 1);
   layout->addWidget(controls_);
   layout->addWidget(table_, 1);
-  layout->addWidget(path_);
+  layout->addLayout(pathRow);
   setCentralWidget(central);
   savingSheet_ = new SavingSheet(this);
 }
