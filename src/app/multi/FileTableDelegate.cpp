@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "app/multi/FileTableModel.h"
+#include "app/multi/FileTableView.h"
 
 
 void FileTableDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const {
@@ -37,13 +38,17 @@ void FileTableDelegate::paintThumbnail(QPainter* painter, const QStyleOptionView
       painter->drawPixmap(target, pixmap);
     }
   } else if (index.data(FileTableModel::ThumbnailPendingRole).toBool()) {
-    // Three dots: the thumbnail is on its way.
+    // Three dots, one lit in turn while the view animates: the thumbnail is
+    // on its way.
+    const auto* view = qobject_cast<const FileTableView*>(option.widget);
+    const int lit = view ? view->busyPhase() % 3 : 1;
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(Qt::NoPen);
-    painter->setBrush(option.palette.color(QPalette::Disabled, QPalette::Text));
     const int dot = std::max(2, std::min(box.width(), box.height()) / 8);
-    for (int i = -1; i <= 1; ++i)
-      painter->drawEllipse(QPoint(box.center().x() + i * dot * 2, box.center().y()), dot / 2, dot / 2);
+    for (int i = 0; i < 3; ++i) {
+      painter->setBrush(option.palette.color(i == lit ? QPalette::Active : QPalette::Disabled, QPalette::Text));
+      painter->drawEllipse(QPoint(box.center().x() + (i - 1) * dot * 2, box.center().y()), dot / 2, dot / 2);
+    }
   }
   painter->restore();
 }

@@ -23,6 +23,22 @@ FileTableView::FileTableView(QWidget* parent) : QTableView(parent) {
   header->setHighlightSections(false);
   header->setStretchLastSection(false);
   connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &FileTableView::shownRowsMayHaveChanged);
+  busyTimer_.setInterval(150);
+  connect(&busyTimer_, &QTimer::timeout, this, &FileTableView::stepBusyMarks);
+}
+
+void FileTableView::animateBusyThumbnails() {
+  if (!busyTimer_.isActive()) busyTimer_.start();
+}
+
+void FileTableView::stepBusyMarks() {
+  if (!stillBusy_ || !stillBusy_()) {
+    busyTimer_.stop();
+    return;
+  }
+  ++busyPhase_;
+  const int x = columnViewportPosition(FileTableModel::Thumbnail);
+  viewport()->update(QRect(x, 0, columnWidth(FileTableModel::Thumbnail), viewport()->height()));
 }
 
 void FileTableView::applyRowHeight(int rowHeight, int thumbnailWidth) {

@@ -4,6 +4,9 @@
 // have changed (for thumbnails) and a context menu was asked for.
 
 #include <QTableView>
+#include <QTimer>
+
+#include <functional>
 
 #include <optional>
 #include <utility>
@@ -20,6 +23,12 @@ class FileTableView : public QTableView {
   // First and last row in view (an empty range when the table is empty).
   std::pair<int, int> shownRows() const;
 
+  // While stillBusy() answers true, the busy marks of thumbnails on their
+  // way turn (busyPhase() steps); the timer stops by itself afterwards.
+  void setBusyTest(std::function<bool()> stillBusy) { stillBusy_ = std::move(stillBusy); }
+  void animateBusyThumbnails();
+  int busyPhase() const { return busyPhase_; }
+
  signals:
   void shownRowsMayHaveChanged();
   // row: the row under the click (none outside the rows); from the keyboard
@@ -30,4 +39,11 @@ class FileTableView : public QTableView {
   void contextMenuEvent(QContextMenuEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void dataChanged(const QModelIndex& topLeft, const QModelIndex& bottomRight, const QList<int>& roles) override;
+
+ private:
+  void stepBusyMarks();
+
+  std::function<bool()> stillBusy_;
+  QTimer busyTimer_;
+  int busyPhase_ = 0;
 };

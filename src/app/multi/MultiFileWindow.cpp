@@ -132,6 +132,8 @@ void MultiFileWindow::bindTable() {
   });
   connect(scheduler_.get(), &ThumbnailScheduler::thumbnailReady, model_, &FileTableModel::thumbnailArrived);
   connect(table_, &FileTableView::shownRowsMayHaveChanged, scheduler_.get(), &ThumbnailScheduler::poke);
+  table_->setBusyTest([this] { return scheduler_->pendingCount() > 0; });
+  connect(table_, &FileTableView::shownRowsMayHaveChanged, table_, &FileTableView::animateBusyThumbnails);
   connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, this,
           &MultiFileWindow::tableSelectionChanged);
   connect(table_, &FileTableView::contextMenuAsked, this, &MultiFileWindow::showContextMenu);
