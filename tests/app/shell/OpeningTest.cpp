@@ -105,40 +105,40 @@ class OpeningTest : public QObject {
     QVERIFY(f.multiWindowRows() == (std::vector{a, b}));
   }
 
-  void quitReviewAsksLastOpenedFirst() {
+  void quitReviewAsksTheLaterOpenedFirst() {
     AppFixture f;
     f.settings.setUseSingleWindow(true);
     const std::vector files{f.photo("a.jpg"), f.photo("b.jpg"), f.photo("c.jpg")};
     QVERIFY(f.waitForOpening([&] { f.controller.openFiles(files, false); }));
     QCOMPARE(f.controller.windows().size(), 3u);
-    QPointer<DocumentWindow> first = f.controller.windows()[0], last = f.controller.windows()[1];
-    for (DocumentWindow* window : {first.data(), last.data()})  // c stays unedited
+    QPointer<DocumentWindow> earlier = f.controller.windows()[0], later = f.controller.windows()[1];
+    for (DocumentWindow* window : {earlier.data(), later.data()})  // c, unedited, is never asked
       QVERIFY(static_cast<SingleFileWindow*>(window)->document().changeDateWithYears(1, 0, 0, 0, 0, 0, true, 1));
     QSignalSpy review(&f.controller, &DocumentController::quitReviewFinished);
     const auto reviewEnded = [&](int count, bool quit) {
       return review.count() == count && review.last()[0].toBool() == quit;
     };
 
-    // Cancel on the last opened stops the quit before the first is asked.
+    // Cancel on the later opened stops the quit before the earlier is asked.
     f.controller.reviewChangesAndQuit();
-    QVERIFY(!first->closeSheet());
-    QVERIFY(answerCloseSheet(last, "cancelButton"));
+    QVERIFY(!earlier->closeSheet());
+    QVERIFY(answerCloseSheet(later, "cancelButton"));
     QVERIFY(reviewEnded(1, false));
-    QVERIFY(!first->closeSheet());
+    QVERIFY(!earlier->closeSheet());
     QCOMPARE(f.controller.windows().size(), 3u);
-    // Don't Save closes the last and asks the first; Cancel there stops.
+    // Don't Save closes the later and asks the earlier; Cancel there stops.
     f.controller.reviewChangesAndQuit();
-    QVERIFY(answerCloseSheet(last, "dontSaveButton"));
-    QVERIFY(answerCloseSheet(first, "cancelButton"));
+    QVERIFY(answerCloseSheet(later, "dontSaveButton"));
+    QVERIFY(answerCloseSheet(earlier, "cancelButton"));
     QVERIFY(reviewEnded(2, false));
     QCOMPARE(f.controller.windows().size(), 2u);
-    QVERIFY(first && first->hasEditedFile());
+    QVERIFY(earlier && earlier->hasEditedFile());
     // A close sheet already up is waited for; its answer goes on with the quit.
-    first->close();
-    QVERIFY(first->closeSheet());
+    earlier->close();
+    QVERIFY(earlier->closeSheet());
     f.controller.reviewChangesAndQuit();
     QCOMPARE(review.count(), 2);
-    QVERIFY(answerCloseSheet(first, "dontSaveButton"));
+    QVERIFY(answerCloseSheet(earlier, "dontSaveButton"));
     QVERIFY(reviewEnded(3, true));
     QTRY_VERIFY(f.controller.windows().empty());
   }
