@@ -27,10 +27,7 @@ int main(int argc, char** argv) {
   hours->setAccessibleName(QStringLiteral("Hours"));
   auto* apply = new QPushButton(QStringLiteral("Apply"), central);
   apply->setAccessibleName(QStringLiteral("Apply"));
-  layout->addWidget(modeLabel);
-  layout->addWidget(mode);
-  layout->addWidget(hours);
-  layout->addWidget(apply);
+  for (QWidget* control : std::initializer_list<QWidget*>{modeLabel, mode, hours, apply}) layout->addWidget(control);
   window.setCentralWidget(central);
   QMenu* file = window.menuBar()->addMenu(QStringLiteral("&File"));
   file->addAction(QStringLiteral("&Quit"), &app, &QApplication::quit);

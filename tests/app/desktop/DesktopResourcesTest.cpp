@@ -1,56 +1,35 @@
 // The resources the app embeds: the window icons and the compiled English
-// translation, which must carry every user-visible key with the same
-// placeholders as the built-in English formats.
+// translation, which must carry every user-visible key with the same text
+// as the built-in English formats.
 #include <QDirIterator>
 #include <QFile>
 #include <QImage>
+#include <QMap>
 #include <QRegularExpression>
-#include <QSet>
 #include <QTest>
 #include <QTranslator>
 #include <QXmlStreamReader>
-#include <vector>
 
 #include "documents/LumLocalized.h"
 #include "documents/LumLocalizedTable.h"
 
 namespace {
 
-struct TsMessage {
-  QString source;
-  QString translation;
-};
+QString fromView(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
-std::vector<TsMessage> readTsFile(const QString& path) {
+// The source and translation of every message in a .ts file.
+QMap<QString, QString> readTsFile(const QString& path) {
+  QMap<QString, QString> messages;
   QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return {};
-  std::vector<TsMessage> messages;
+  if (!file.open(QIODevice::ReadOnly)) return messages;
   QXmlStreamReader xml(&file);
-  TsMessage current;
+  QString source;
   while (xml.readNextStartElement() || !xml.atEnd()) {
     if (!xml.isStartElement()) continue;
-    if (xml.name() == u"source") current.source = xml.readElementText();
-    else if (xml.name() == u"translation") {
-      current.translation = xml.readElementText();
-      messages.push_back(current);
-    }
+    if (xml.name() == u"source") source = xml.readElementText();
+    else if (xml.name() == u"translation") messages.insert(source, xml.readElementText());
   }
   return messages;
-}
-
-// The %N markers of a Qt format, as a set ("%1", "%2").
-QSet<QString> placeholders(const QString& text) {
-  static const QRegularExpression marker(QStringLiteral("%[1-9]"));
-  QSet<QString> found;
-  for (const QRegularExpressionMatch& m : marker.globalMatch(text)) found.insert(m.captured());
-  return found;
-}
-
-QString englishFormat(const QString& key) {
-  for (const LumLocalized::EnglishFormat& f : LumLocalized::kEnglishFormats)
-    if (QString::fromUtf8(f.key.data(), static_cast<qsizetype>(f.key.size())) == key)
-      return QString::fromUtf8(f.english.data(), static_cast<qsizetype>(f.english.size()));
-  return {};
 }
 
 }  // namespace
@@ -58,53 +37,42 @@ QString englishFormat(const QString& key) {
 class DesktopResourcesTest : public QObject {
   Q_OBJECT
 
+  QMap<QString, QString> messages_;
+  QTranslator translator_;
+
  private slots:
-  void windowIconsAreEmbedded_data() {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<int>("size");
-    QTest::newRow("256") << QStringLiteral(":/icons/lumidate-256.png") << 256;
-    QTest::newRow("48") << QStringLiteral(":/icons/lumidate-48.png") << 48;
-  }
-  void windowIconsAreEmbedded() {
-    QFETCH(QString, path);
-    QFETCH(int, size);
-    const QImage icon(path);
-    QCOMPARE(icon.size(), QSize(size, size));
-    QVERIFY(icon.hasAlphaChannel());
+  void initTestCase() {
+    messages_ = readTsFile(QStringLiteral(LUMIDATE_TS_FILE));
+    QVERIFY2(messages_.size() > 30, "the .ts file lists the app's keys");
+    QVERIFY(translator_.load(QStringLiteral(":/translations/lumidate_en.qm")));
   }
 
-  void everyKeyLoadsWithItsPlaceholders() {
-    const std::vector<TsMessage> messages = readTsFile(QStringLiteral(LUMIDATE_TS_FILE));
-    QVERIFY2(messages.size() > 30, "the .ts file lists the app's keys");
-    QTranslator translator;
-    QVERIFY(translator.load(QStringLiteral(":/translations/lumidate_en.qm")));
-    for (const TsMessage& m : messages) {
-      const QByteArray key = m.source.toUtf8();
-      QCOMPARE(translator.translate(LumLocalized::kContext, key.constData()), m.translation);
-      const QString english = englishFormat(m.source);
-      if (english.isEmpty()) {
-        QVERIFY2(placeholders(m.translation).isEmpty(), key.constData());
-        QCOMPARE(m.translation, m.source);
-      } else {
-        QCOMPARE(placeholders(m.translation), placeholders(english));
-        QCOMPARE(m.translation, english);
-      }
+  void windowIconsAreEmbedded() {
+    for (int size : {256, 48}) {
+      const QImage icon(QStringLiteral(":/icons/lumidate-%1.png").arg(size));
+      QCOMPARE(icon.size(), QSize(size, size));
+      QVERIFY(icon.hasAlphaChannel());
     }
   }
 
-  void everyEnglishFormatHasAMessage() {
-    QSet<QString> sources;
-    for (const TsMessage& m : readTsFile(QStringLiteral(LUMIDATE_TS_FILE))) sources.insert(m.source);
+  // A key with arguments translates to its built-in English format (the
+  // same %N markers), any other key to itself; every format has its key.
+  void everyKeyTranslatesToItsEnglish() {
+    QMap<QString, QString> english;
     for (const LumLocalized::EnglishFormat& f : LumLocalized::kEnglishFormats)
-      QVERIFY2(sources.contains(QString::fromUtf8(f.key.data(), static_cast<qsizetype>(f.key.size()))),
-               f.key.data());
+      english.insert(fromView(f.key), fromView(f.english));
+    for (const QString& key : english.keys()) QVERIFY2(messages_.contains(key), qPrintable(key));
+    static const QRegularExpression marker(QStringLiteral("%[1-9]"));
+    for (auto m = messages_.cbegin(); m != messages_.cend(); ++m) {
+      QCOMPARE(translator_.translate(LumLocalized::kContext, m.key().toUtf8().constData()), m.value());
+      QCOMPARE(m.value(), english.value(m.key(), m.key()));
+      QVERIFY2(english.contains(m.key()) || !m.key().contains(marker), qPrintable(m.key()));
+    }
   }
 
   // A key written in the code but missing from the .ts file would show
   // untranslated in every other language.
   void everyKeyInTheCodeIsListed() {
-    QSet<QString> sources;
-    for (const TsMessage& m : readTsFile(QStringLiteral(LUMIDATE_TS_FILE))) sources.insert(m.source);
     static const QRegularExpression lookup(
         QStringLiteral("LumLocalized::(?:text|format)\\(\"((?:[^\"\\\\]|\\\\.)*)\""));
     int keys = 0;
@@ -116,7 +84,7 @@ class DesktopResourcesTest : public QObject {
       const QString code = QString::fromUtf8(file.readAll());
       for (const QRegularExpressionMatch& m : lookup.globalMatch(code)) {
         const QString key = m.captured(1).replace(QLatin1String("\\\""), QLatin1String("\""));
-        QVERIFY2(sources.contains(key), qPrintable(files.filePath() + QStringLiteral(": ") + key));
+        QVERIFY2(messages_.contains(key), qPrintable(files.filePath() + QStringLiteral(": ") + key));
         ++keys;
       }
     }
@@ -125,35 +93,19 @@ class DesktopResourcesTest : public QObject {
 
   // With the translation installed, lookups through the documents layer
   // give the same texts as without it.
-  void installedTranslationAgreesWithBuiltInEnglish_data() {
-    QTest::addColumn<QByteArray>("key");
-    QTest::addColumn<QString>("a1");
-    QTest::addColumn<QString>("a2");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("title") << QByteArray("LocalST_ImagesWindowTitle") << "a.jpg" << "3"
-                           << "a.jpg (3 images)";
-    QTest::newRow("progress") << QByteArray("%@ / %lu") << "7" << "20" << "7 / 20";
-    QTest::newRow("question") << QByteArray("You are opening multiple files.") << "4" << QString()
-                              << "You are opening 4 files.";
-    QTest::newRow("failure") << QByteArray("Could not be opened.") << "x.tif" << QString()
-                             << "\"x.tif\" could not be opened.";
-    QTest::newRow("plain") << QByteArray("No Date-Time") << QString() << QString() << "No Date-Time";
-  }
   void installedTranslationAgreesWithBuiltInEnglish() {
-    QFETCH(QByteArray, key);
-    QFETCH(QString, a1);
-    QFETCH(QString, a2);
-    QFETCH(QString, expected);
-    auto lookup = [&] {
-      return a2.isNull() ? LumLocalized::format(key.constData(), a1)
-                         : LumLocalized::format(key.constData(), a1, a2);
+    const auto lookups = [] {
+      return QStringList{LumLocalized::format("LocalST_ImagesWindowTitle", "a.jpg", "3"),
+                         LumLocalized::format("%@ / %lu", "7", "20"),
+                         LumLocalized::format("You are opening multiple files.", "4"),
+                         LumLocalized::format("Could not be opened.", "x.tif"), LumLocalized::text("No Date-Time")};
     };
-    QCOMPARE(lookup(), expected);
-    QTranslator translator;
-    QVERIFY(translator.load(QStringLiteral(":/translations/lumidate_en.qm")));
-    QCoreApplication::installTranslator(&translator);
-    const QString translated = lookup();
-    QCoreApplication::removeTranslator(&translator);
+    const QStringList expected{"a.jpg (3 images)", "7 / 20", "You are opening 4 files.",
+                               "\"x.tif\" could not be opened.", "No Date-Time"};
+    QCOMPARE(lookups(), expected);
+    QCoreApplication::installTranslator(&translator_);
+    const QStringList translated = lookups();
+    QCoreApplication::removeTranslator(&translator_);
     QCOMPARE(translated, expected);
   }
 };

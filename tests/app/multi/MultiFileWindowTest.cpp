@@ -1,40 +1,31 @@
 // The multi-file window driven through its widgets on the offscreen
 // platform: applying a shift and undoing it, the range warning, typing into
 // date cells, sorting with a selection, list sizes, a save with a failure,
-// and thumbnails that follow their files through a sort.
+// and thumbnails that follow their files into view.
 #include <QAbstractItemModelTester>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
 #include <QScopeGuard>
-#include <QSettings>
-#include <QSignalSpy>
 #include <QSpinBox>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QUndoGroup>
 #include <QUndoStack>
 
 #include <future>
+#include <optional>
 #include <set>
 
-#include "app/AppActions.h"
 #include "app/multi/BitmapImage.h"
 #include "app/multi/FileTableModel.h"
 #include "app/multi/FileTableView.h"
 #include "app/multi/MultiFileActions.h"
-#include "app/multi/MultiFileWindow.h"
 #include "app/multi/ThumbnailScheduler.h"
-#include "app/preferences/Settings.h"
 #include "app/sheets/SavingSheet.h"
-#include "documents/LumMultiFileDoc.h"
-#include "documents/LumNotificationCenter.h"
-#include "documents/PhotoFiles.h"
-#include "app/support/FakePrompts.h"
+#include "app/support/AppFixture.h"
 
 using namespace doctest_support;
 namespace fs = std::filesystem;
@@ -42,37 +33,24 @@ using Model = FileTableModel;
 
 namespace {
 
-const std::string kA = "2020:01:31 10:00:00";
-const std::string kB = "2019:12:31 23:30:00";
-const std::string kC = "2021:06:15 08:00:00";
-
-struct Photo {
-  std::string name;
-  PhotoDates dates;
-};
+const std::string kA = "2020:01:31 10:00:00", kB = "2019:12:31 23:30:00", kC = "2021:06:15 08:00:00";
 
 }  // namespace
 
 class MultiFileWindowTest : public QObject {
   Q_OBJECT
 
-  QTemporaryDir dir_;
-  std::unique_ptr<QSettings> store_;
-  std::unique_ptr<Settings> settings_;
-  std::unique_ptr<QUndoGroup> undoGroup_;
-  std::unique_ptr<AppActions> actions_;
-  FakePrompts prompts_;
-  std::unique_ptr<AppContext> context_;
-  std::unique_ptr<TempFolder> folder_;
+  std::optional<AppFixture> f_;
   std::unique_ptr<MultiFileWindow> window_;
   std::unique_ptr<QAbstractItemModelTester> tester_;
 
-  MultiFileWindow& open(const std::vector<Photo>& photos) {
+  MultiFileWindow& open(const std::vector<std::pair<std::string, PhotoDates>>& photos) {
     std::vector<std::unique_ptr<LumFileItemDoc>> items;
-    for (const Photo& p : photos) items.push_back(openItem(writePhoto(*folder_, p.name, p.dates)));
-    window_ = std::make_unique<MultiFileWindow>(std::make_unique<LumMultiFileDoc>(std::move(items)), *context_);
-    undoGroup_->addStack(&window_->undoStack());
-    undoGroup_->setActiveStack(&window_->undoStack());
+    for (const auto& [name, dates] : photos) items.push_back(openItem(f_->photo(name, dates)));
+    tester_.reset();
+    window_ = std::make_unique<MultiFileWindow>(std::make_unique<LumMultiFileDoc>(std::move(items)), f_->context);
+    f_->undoGroup.addStack(&window_->undoStack());
+    f_->undoGroup.setActiveStack(&window_->undoStack());
     tester_ = std::make_unique<QAbstractItemModelTester>(&window_->model(),
                                                         QAbstractItemModelTester::FailureReportingMode::QtTest);
     window_->show();
@@ -85,7 +63,7 @@ class MultiFileWindowTest : public QObject {
     if (!found) qFatal("no widget %s", name);
     return *found;
   }
-  int rowOf(const std::string& name) { return *doc().rowOf(doc().itemForURL(*folder_ / name)); }
+  int rowOf(const std::string& name) { return *doc().rowOf(doc().itemForURL(f_->folder / name)); }
   QString cell(int row, int column) { return window_->model().index(row, column).data().toString(); }
   QString cell(const std::string& name, int column) { return cell(rowOf(name), column); }
   // Types text into a date cell through the table's editor and commits it.
@@ -103,26 +81,17 @@ class MultiFileWindowTest : public QObject {
   }
 
  private slots:
-  void init() {
-    store_ = std::make_unique<QSettings>(dir_.filePath("settings.ini"), QSettings::IniFormat);
-    store_->clear();
-    settings_ = std::make_unique<Settings>(*store_);
-    settings_->registerDefaults();
-    undoGroup_ = std::make_unique<QUndoGroup>();
-    actions_ = std::make_unique<AppActions>(*undoGroup_);
-    prompts_ = FakePrompts();
-    context_ = std::make_unique<AppContext>(AppContext{*settings_, prompts_, *actions_});
-    folder_ = std::make_unique<TempFolder>();
-  }
+  void init() { f_.emplace(); }
   void cleanup() {
     tester_.reset();
-    window_.reset();
-    actions_.reset();
-    undoGroup_.reset();
+    window_.reset();  // before the context it refers to
+    f_.reset();
   }
 
-  void forwardApplyThroughTheFieldsThenOneUndo() {
-    open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, std::nullopt, kB}}});
+  // Forward by an hour and one undo, then a year back would leave the range
+  // for one original date, then Set Time's fields.
+  void applyThroughTheFieldsUndoAndTheRangeWarning() {
+    open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, std::nullopt, kB}}, {"old.jpg", {"0001:06:01 00:00:00", kA, kA}}});
     window_->actions().markAll->trigger();
     auto& apply = widget<QPushButton>("applyButton");
     QVERIFY(!apply.isEnabled());  // all fields zero
@@ -134,68 +103,54 @@ class MultiFileWindowTest : public QObject {
     QTest::mouseClick(&apply, Qt::LeftButton);
     QCOMPARE(cell("a.jpg", Model::DateTimeOriginal), QString("2020:01:31 11:00:00"));
     QCOMPARE(cell("b.jpg", Model::DateTime), QString("2020:01:01 00:30:00"));
-    QCOMPARE(cell("b.jpg", Model::DateTimeDigitized), QString());  // absent stays absent
     QCOMPARE(hours.value(), 0);  // the fields are cleared after an offset
-    QCOMPARE(actions_->undo->text(), QString("Undo Forward (null)"));
-    actions_->undo->trigger();
+    QCOMPARE(f_->actions.undo->text(), QString("Undo Forward (null)"));
+    f_->actions.undo->trigger();
     QCOMPARE(cell("a.jpg", Model::DateTimeOriginal), QString::fromStdString(kA));
-    QCOMPARE(cell("b.jpg", Model::DateTime), QString::fromStdString(kB));
-    QVERIFY(!doc().hasEditedFile());
+
+    widget<QComboBox>("modePopup").setCurrentIndex(0);  // Backward
+    auto& years = widget<QSpinBox>("yearField");
+    years.selectAll();
+    QTest::keyClicks(&years, "1");
+    QVERIFY(!apply.isEnabled());
+    QVERIFY(widget<QLabel>("rangeWarning").isVisible());
+    // Without the original date checked the shift stays in range.
+    QTest::mouseClick(&widget<QCheckBox>("originalCheck"), Qt::LeftButton);
+    QVERIFY(apply.isEnabled());
+    QVERIFY(!widget<QLabel>("rangeWarning").isVisible());
     // Set Time names the fields for a point in time.
     widget<QComboBox>("modePopup").setCurrentIndex(2);
     QCOMPARE(hours.accessibleName(), QString("Hour"));
     QCOMPARE(widget<QSpinBox>("monthField").maximum(), 12);
   }
 
-  void contextMenuRestoresTheClickedFileOrTheSelection() {
-    open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, kB, kB}}});
-    typeInto("b.jpg", Model::DateTime, "2002:02:02 02:02:02");
-    window_->table().selectRow(rowOf("a.jpg"));
-    MultiFileActions& actions = window_->actions();
-    actions.contextMenuFor(rowOf("b.jpg"));
-    QCOMPARE(actions.restoreSelected->text(), QString("Restore Clicked File"));
-    QVERIFY(actions.restoreSelected->isEnabled());
-    actions.contextMenuFor(rowOf("a.jpg"));
-    QCOMPARE(actions.restoreSelected->text(), QString("Restore Selected Files"));
-    QVERIFY(!actions.restoreSelected->isEnabled());  // a is not edited
-    actions.contextMenuFor(rowOf("b.jpg"));
-    actions.restoreSelected->trigger();
-    QCOMPARE(cell("b.jpg", Model::DateTime), QString::fromStdString(kB));
-  }
-
   void bitmapsOfEveryLayoutBecomeImages() {
     using A = lum::AlphaInfo;
-    struct Case {
-      const char* name;
-      lum::ColorSpace space;
-      A alpha;
-      int bits;
-      std::vector<std::uint16_t> components;  // one pixel
-      QColor expected;
+    using S = lum::ColorSpace;
+    // One pixel of each layout, its components as stored.
+    const struct { const char* name; S space; A alpha; int bits; std::vector<std::uint16_t> stored; QColor expected; }
+        cases[] = {
+        {"grey", S::Gray, A::None, 8, {200}, QColor(200, 200, 200)},
+        {"RGB", S::RGB, A::None, 8, {10, 20, 30}, QColor(10, 20, 30)},
+        {"XRGB", S::RGB, A::NoneSkipFirst, 8, {0, 10, 20, 30}, QColor(10, 20, 30)},
+        {"ARGB straight", S::RGB, A::First, 8, {128, 10, 20, 30}, QColor(10, 20, 30, 128)},
+        {"RGB 16 bit", S::RGB, A::None, 16, {0xFF00, 0x8000, 0x0100}, QColor(255, 128, 1)},
+        {"CMYK", S::CMYK, A::None, 8, {255, 0, 0, 0}, QColor(0, 255, 255)},
     };
-    const Case cases[] = {
-        {"grey", lum::ColorSpace::Gray, A::None, 8, {200}, QColor(200, 200, 200)},
-        {"RGB", lum::ColorSpace::RGB, A::None, 8, {10, 20, 30}, QColor(10, 20, 30)},
-        {"XRGB", lum::ColorSpace::RGB, A::NoneSkipFirst, 8, {0, 10, 20, 30}, QColor(10, 20, 30)},
-        {"ARGB straight", lum::ColorSpace::RGB, A::First, 8, {128, 10, 20, 30}, QColor(10, 20, 30, 128)},
-        {"RGB 16 bit", lum::ColorSpace::RGB, A::None, 16, {0xFF00, 0x8000, 0x0100}, QColor(255, 128, 1)},
-        {"CMYK", lum::ColorSpace::CMYK, A::None, 8, {255, 0, 0, 0}, QColor(0, 255, 255)},
-    };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
       lum::Bitmap b;
       b.width = b.height = 1;
       b.bitsPerComponent = c.bits;
       b.bitmapInfo = static_cast<std::uint32_t>(c.alpha);
       b.colorSpace = c.space;
-      b.bytesPerRow = static_cast<int>(c.components.size()) * c.bits / 8;
-      for (std::uint16_t v : c.components) {
+      b.bytesPerRow = static_cast<int>(c.stored.size()) * c.bits / 8;
+      for (std::uint16_t v : c.stored) {
         const auto* bytes = reinterpret_cast<const std::uint8_t*>(&v);
         if (c.bits == 8) b.pixels.push_back(static_cast<std::uint8_t>(v));
         else b.pixels.insert(b.pixels.end(), bytes, bytes + 2);  // host order
       }
       const QImage image = imageFromBitmap(b);
-      QVERIFY2(!image.isNull(), c.name);
-      QVERIFY2(image.pixelColor(0, 0) == c.expected, c.name);
+      QVERIFY2(!image.isNull() && image.pixelColor(0, 0) == c.expected, c.name);
     }
     lum::Bitmap broken;
     broken.width = broken.height = 2;
@@ -203,51 +158,42 @@ class MultiFileWindowTest : public QObject {
     QVERIFY(imageFromBitmap(broken).isNull());
   }
 
-  void shiftOutOfRangeWarnsAndDisablesApply() {
-    open({{"old.jpg", {"0001:06:01 00:00:00", kA, kA}}});
-    window_->actions().markAll->trigger();
-    QSignalSpy beeps(&doc(), &LumMultiFileDoc::beep);
-    widget<QComboBox>("modePopup").setCurrentIndex(0);  // Backward
-    auto& years = widget<QSpinBox>("yearField");
-    years.selectAll();
-    QTest::keyClicks(&years, "1");
-    QVERIFY(!widget<QPushButton>("applyButton").isEnabled());
-    QVERIFY(widget<QLabel>("rangeWarning").isVisible());
-    QCOMPARE(beeps.count(), 1);
-    // Without the original date checked the shift stays in range.
-    QTest::mouseClick(&widget<QCheckBox>("originalCheck"), Qt::LeftButton);
-    QVERIFY(widget<QPushButton>("applyButton").isEnabled());
-    QVERIFY(!widget<QLabel>("rangeWarning").isVisible());
-  }
-
-  void typingIntoDateCells() {
+  void typingIntoDateCellsAndRestoringTheClickedFile() {
     open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, kB, std::nullopt}}});
-    QVERIFY(!(window_->model().flags(window_->model().index(rowOf("b.jpg"), Model::DateTime)) & Qt::ItemIsEditable));
-    QCOMPARE(window_->model().index(rowOf("b.jpg"), Model::DateTime).data(Model::PlaceholderRole).toString(),
-             QString("No Date-Time"));
+    const QModelIndex absent = window_->model().index(rowOf("b.jpg"), Model::DateTime);
+    QVERIFY(!(window_->model().flags(absent) & Qt::ItemIsEditable));
+    QCOMPARE(absent.data(Model::PlaceholderRole).toString(), QString("No Date-Time"));
 
     typeInto("a.jpg", Model::DateTimeOriginal, "2021/3/4 5:06:07");
     QCOMPARE(cell("a.jpg", Model::DateTimeOriginal), QString("2021:03:04 05:06:07"));
     QCOMPARE(cell("a.jpg", Model::DateTime), QString::fromStdString(kA));
-
+    // With Shift the typed date goes to all three.
     typeInto("b.jpg", Model::DateTimeDigitized, "2000-01-02 03:04:05", Qt::ShiftModifier);
     for (int column : {Model::DateTimeOriginal, Model::DateTimeDigitized, Model::DateTime})
       QCOMPARE(cell("b.jpg", column), QString("2000:01:02 03:04:05"));
-
     QSignalSpy beeps(&doc(), &LumMultiFileDoc::beep);
     typeInto("a.jpg", Model::DateTimeDigitized, "2021/3/4");
     QCOMPARE(beeps.count(), 1);
     QCOMPARE(cell("a.jpg", Model::DateTimeDigitized), QString::fromStdString(kA));
-    QCOMPARE(doc().undoStack().count(), 2);
+
+    // The context menu restores the clicked file when it is outside the selection.
+    window_->table().selectRow(rowOf("a.jpg"));
+    MultiFileActions& actions = window_->actions();
+    actions.contextMenuFor(rowOf("b.jpg"));
+    QCOMPARE(actions.restoreSelected->text(), QString("Restore Clicked File"));
+    actions.restoreSelected->trigger();
+    QCOMPARE(cell("b.jpg", Model::DateTimeOriginal), QString::fromStdString(kB));
+    QCOMPARE(cell("a.jpg", Model::DateTimeOriginal), QString("2021:03:04 05:06:07"));
   }
 
   void sortingByEachColumnKeepsTheSelection() {
     // Each column orders the three files differently.
-    open({{"a.jpg", {kC, kB, kA}}, {"b.jpg", {kA, kC, kB}}, {"c.jpg", {kB, kA, kC}}});
+    const std::vector<std::pair<std::string, PhotoDates>> photos{
+        {"a.jpg", {kC, kB, kA}}, {"b.jpg", {kA, kC, kB}}, {"c.jpg", {kB, kA, kC}}};
+    open(photos);
     FileTableView& table = window_->table();
     table.selectRow(rowOf("b.jpg"));
-    QCOMPARE(doc().selectedRows(), std::vector<int>{rowOf("b.jpg")});
-    QCOMPARE(widget<QLineEdit>("pathField").text(), QString::fromStdString((*folder_ / "b.jpg").string()));
+    QCOMPARE(widget<QLineEdit>("pathField").text(), QString::fromStdString((f_->folder / "b.jpg").string()));
     QHeaderView* header = table.horizontalHeader();
     std::set<std::vector<QString>> orders;
     for (int column = Model::FileName; column < Model::ColumnCount; ++column) {
@@ -256,34 +202,33 @@ class MultiFileWindowTest : public QObject {
       QCOMPARE(doc().sortDescriptors().front().key, std::string(Model::columnKey(column)));
       const int row = rowOf("b.jpg");
       QCOMPARE(doc().selectedRows(), std::vector<int>{row});
-      const QModelIndexList shown = table.selectionModel()->selectedRows();
-      QCOMPARE(shown.size(), 1);
-      QCOMPARE(shown.front().row(), row);
-      QCOMPARE(cell(row, Model::FileName), QString("b.jpg"));
+      QCOMPARE(table.selectionModel()->selectedRows(), QModelIndexList{window_->model().index(row, 0)});
       orders.insert({cell(0, Model::FileName), cell(1, Model::FileName), cell(2, Model::FileName)});
     }
     QVERIFY(orders.size() >= 3);
     // The same from the keyboard: Edit > Sort By; again turns the order round.
-    QMenu* sortMenu = window_->actions().sortMenu;
-    sortMenu->actions().at(Model::DateTime - Model::FileName)->trigger();
+    QAction* byDateTime = window_->actions().sortMenu->actions().at(Model::DateTime - Model::FileName);
+    byDateTime->trigger();
     QCOMPARE(header->sortIndicatorSection(), int(Model::DateTime));
-    sortMenu->actions().at(Model::DateTime - Model::FileName)->trigger();
+    byDateTime->trigger();
     QCOMPARE(doc().sortDescriptors().front().ascending, false);
     QCOMPARE(table.selectionModel()->selectedRows().front().row(), rowOf("b.jpg"));
     // The header's state is kept, and a new window sorts as it was left.
-    const auto last = doc().sortDescriptors().front();
-    QVERIFY(!settings_->tableLayout().isEmpty());
-    open({{"a.jpg", {kC, kB, kA}}, {"b.jpg", {kA, kC, kB}}, {"c.jpg", {kB, kA, kC}}});
-    QCOMPARE(QString::fromStdString(doc().sortDescriptors().front().key), QString::fromStdString(last.key));
+    open(photos);
+    QCOMPARE(doc().sortDescriptors().front().key, std::string(Model::columnKey(Model::DateTime)));
   }
 
+  // The View menu's list size reaches the open window: its row height and
+  // the thumbnail column, the file name column taking up the difference.
   void listSizeChangesRowsAndThumbnailColumn() {
     open({{"a.jpg", {kA, kA, kA}}});
     QHeaderView* header = window_->table().horizontalHeader();
     const int together = header->sectionSize(Model::Thumbnail) + header->sectionSize(Model::FileName);
-    for (const auto& [size, height, thumbnail] : {std::tuple{3, 78, 78}, {1, 18, 48}, {2, 48, 48}}) {
-      settings_->setTableViewRowHeight(size);
-      LumNotificationCenter::defaultCenter().post(kLumListSizeDidChangeNotification);
+    const AppActions& sizes = f_->actions;
+    for (const auto& [action, height, thumbnail] :
+         {std::tuple{sizes.listLarge, 78, 78}, {sizes.listSmall, 18, 48}, {sizes.listMedium, 48, 48}}) {
+      action->trigger();
+      QCOMPARE(f_->settings.tableViewRowHeight(), action->data().toInt());
       QCOMPARE(window_->table().rowHeight(0), height);
       QCOMPARE(header->sectionSize(Model::Thumbnail), thumbnail);
       QCOMPARE(header->sectionSize(Model::Thumbnail) + header->sectionSize(Model::FileName), together);
@@ -292,7 +237,7 @@ class MultiFileWindowTest : public QObject {
 
   void savingWithOneFailureKeepsItsEditsAndNamesIt() {
     open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, kB, kB}}});
-    const fs::path failing = *folder_ / "b.jpg";
+    const fs::path failing = f_->folder / "b.jpg";
     // The writes wait until the test has seen the sheet; released however
     // the test ends, so the save's thread never hangs.
     std::promise<void> release;
@@ -307,57 +252,41 @@ class MultiFileWindowTest : public QObject {
     typeInto("a.jpg", Model::DateTime, "2001:01:01 01:01:01");
     typeInto("b.jpg", Model::DateTime, "2002:02:02 02:02:02");
     QSignalSpy finished(&doc(), &LumMultiFileDoc::saveFinished);
-    QVERIFY(window_->actions().saveAll->isEnabled());
     window_->actions().saveAll->trigger();
     QVERIFY(window_->savingSheet().isVisible());
     QCOMPARE(QApplication::activeModalWidget(), &window_->savingSheet());
-    QCOMPARE(window_->savingSheet().progress(), 0);
     release.set_value();
     releaseOnExit.dismiss();
     QVERIFY(finished.wait(20000));
     QVERIFY(!window_->savingSheet().isVisible());
-    QCOMPARE(prompts_.alerts.size(), std::size_t(1));
-    const auto& alert = prompts_.alerts.front();
+    QCOMPARE(f_->prompts.alerts.size(), std::size_t(1));
+    const auto& alert = f_->prompts.alerts.front();
     QVERIFY(alert.message.contains("b.jpg"));
     QVERIFY(alert.informativeText.contains(QString::fromStdString(std::system_category().message(EIO))));
-    QCOMPARE(readBytes(*folder_ / "a.jpg"), photoBytes({kA, kA, "2001:01:01 01:01:01"}));
-    QCOMPARE(readBytes(failing), photoBytes({kB, kB, kB}));
-    QCOMPARE(cell("b.jpg", Model::DateTime), QString("2002:02:02 02:02:02"));
-    QCOMPARE(doc().editedFileCount(), std::size_t(1));
+    QCOMPARE(readBytes(f_->folder / "a.jpg"), photoBytes({kA, kA, "2001:01:01 01:01:01"}));
+    QCOMPARE(doc().editedFileCount(), std::size_t(1));  // the failed file keeps its edit
   }
 
-  void thumbnailsArriveKeyedByFile() {
-    open({{"a.jpg", {kA, kA, kA}}, {"b.jpg", {kB, kB, kB}}, {"c.jpg", {kC, kC, kC}}});
-    const Model& model = window_->model();
-    const auto thumbnailIsTheFilesOwn = [&](int row) {
-      const QModelIndex index = model.index(row, Model::Thumbnail);
-      const QPixmap* cached = window_->thumbnails().find(index.data(Model::PathRole).toString());
-      return cached && !cached->isNull() &&
-             index.data(Qt::DecorationRole).value<QPixmap>().cacheKey() == cached->cacheKey();
-    };
-    QTRY_VERIFY(thumbnailIsTheFilesOwn(0) && thumbnailIsTheFilesOwn(1) && thumbnailIsTheFilesOwn(2));
-    QVERIFY(!model.index(0, Model::Thumbnail).data(Model::ThumbnailPendingRole).toBool());
-    QCOMPARE(window_->thumbnailScheduler().pendingCount(), std::size_t(0));
-    // Descending by DateTime: c, a, b. Every row still shows its own file's.
-    window_->model().sort(Model::DateTime, Qt::DescendingOrder);
-    QCOMPARE(cell(0, Model::FileName), QString("c.jpg"));
-    for (int row = 0; row < 3; ++row) QVERIFY(thumbnailIsTheFilesOwn(row));
-    QCOMPARE(window_->thumbnailScheduler().pendingCount(), std::size_t(0));
-  }
-
-  void thumbnailsAreMadeForTheRowsInView() {
-    std::vector<Photo> photos;
+  // Thumbnails are made for the rows in view only, and every row shows its
+  // own file's, also after a sort brings other files into view.
+  void thumbnailsFollowTheirFilesIntoView() {
+    std::vector<std::pair<std::string, PhotoDates>> photos;
     for (int i = 0; i < 300; ++i)
       photos.push_back({QString("p%1.jpg").arg(i, 3, 10, QChar('0')).toStdString(), {kA, kA, kA}});
     open(photos);
-    const auto cached = [&](int row) {
-      return window_->thumbnails().contains(window_->model().index(row, 0).data(Model::PathRole).toString());
+    const auto showsItsOwn = [&](int row) {
+      const QModelIndex index = window_->model().index(row, Model::Thumbnail);
+      const QPixmap* cached = window_->thumbnails().find(index.data(Model::PathRole).toString());
+      return cached && !cached->isNull() && !index.data(Model::ThumbnailPendingRole).toBool() &&
+             index.data(Qt::DecorationRole).value<QPixmap>().cacheKey() == cached->cacheKey();
     };
-    QTRY_VERIFY(cached(0));
+    QTRY_VERIFY(showsItsOwn(0) && showsItsOwn(2));
     QTRY_COMPARE(window_->thumbnailScheduler().pendingCount(), std::size_t(0));
-    QVERIFY(!cached(299));  // far below the view: never asked for
-    window_->table().scrollToBottom();
-    QTRY_VERIFY(cached(299));
+    QVERIFY(!window_->thumbnails().contains(QString::fromStdString((f_->folder / "p299.jpg").string())));
+    window_->model().sort(Model::FileName, Qt::DescendingOrder);
+    QCOMPARE(cell(0, Model::FileName), QString("p299.jpg"));
+    QTRY_VERIFY(showsItsOwn(0) && showsItsOwn(2));
+    QTRY_COMPARE(window_->thumbnailScheduler().pendingCount(), std::size_t(0));
   }
 };
 

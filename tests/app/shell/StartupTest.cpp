@@ -1,7 +1,5 @@
 // Start-up: settings defaults and the one-time layout reset, the single
 // instance, and the command line without a display.
-#include "StartupTest.h"
-
 #include <QFile>
 #include <QLockFile>
 #include <QProcess>
@@ -13,113 +11,105 @@
 #include "app/preferences/Settings.h"
 #include "app/startup/SingleInstance.h"
 
-void StartupTest::settingsDefaults() {
-  QTemporaryDir dir;
-  QSettings store(dir.filePath("s.ini"), QSettings::IniFormat);
-  Settings settings(store);
-  settings.registerDefaults();
-  QVERIFY(settings.showInformation());
-  QCOMPARE(settings.tableViewRowHeight(), int(Settings::Medium));
-  QVERIFY(!settings.showImageView());
-  QVERIFY(!settings.useSingleWindow());
-  QCOMPARE(settings.buildNumber(), 0);
-  // A stored choice survives the next start's defaults.
-  settings.setTableViewRowHeight(Settings::Small);
-  settings.registerDefaults();
-  QCOMPARE(settings.tableViewRowHeight(), int(Settings::Small));
-}
+namespace {
 
-void StartupTest::oldTableLayoutIsDroppedOnce_data() {
-  QTest::addColumn<int>("storedBuild");
-  QTest::addColumn<bool>("layoutKept");
-  QTest::newRow("first start") << 0 << false;
-  QTest::newRow("build 91") << 91 << false;
-  QTest::newRow("build 92") << 92 << true;
-}
-
-void StartupTest::oldTableLayoutIsDroppedOnce() {
-  QFETCH(int, storedBuild);
-  QFETCH(bool, layoutKept);
-  QTemporaryDir dir;
-  QSettings store(dir.filePath("s.ini"), QSettings::IniFormat);
-  if (storedBuild) store.setValue("Lum Build Number", storedBuild);
-  Settings settings(store);
-  settings.setTableLayout("layout");
-  settings.migrateFromOlderBuild();
-  QCOMPARE(settings.tableLayout().isEmpty(), !layoutKept);
-  QCOMPARE(settings.buildNumber(), Settings::kBuildNumber);
-  // A layout stored after the reset stays at the next start.
-  settings.setTableLayout("new");
-  settings.migrateFromOlderBuild();
-  QCOMPARE(settings.tableLayout(), QByteArray("new"));
-}
-
-void StartupTest::secondInstanceHandsItsFilesOver() {
-  QTemporaryDir dir;
-  SingleInstance first(dir.path(), "test"), second(dir.path(), "test");
-  QVERIFY(first.start());
-  QVERIFY(first.isPrimary());
-  QVERIFY(!second.start());
-  QSignalSpy handed(&first, &SingleInstance::filesHandedOver);
-  const QStringList paths{"/photos/a.jpg", "/photos/ä b.JPG"};
-  QVERIFY(second.handOver(paths));
-  QVERIFY(handed.wait(5000));
-  QCOMPARE(handed.front().front().toStringList(), paths);
-}
-
-void StartupTest::staleLockAndSocketDoNotBlock() {
-  QTemporaryDir dir;
-  SingleInstance instance(dir.path(), "test");
-  // A crashed run left its lock (its process is gone) and its socket file.
+// Writes a lock file in Qt's own format that names a process that is gone,
+// as a crashed run leaves it.
+bool writeStaleLock(const QString& path) {
   QProcess gone;
   gone.start("true");
-  QVERIFY(gone.waitForStarted());
+  if (!gone.waitForStarted()) return false;
   const qint64 gonePid = gone.processId();
-  QVERIFY(gone.waitForFinished());
+  gone.waitForFinished();
   QByteArray content;
   {
-    // A lock of this process in Qt's own format, then given the dead one's id.
-    QLockFile own(instance.lockPath());
-    QVERIFY(own.tryLock(0));
-    QFile written(instance.lockPath());
-    QVERIFY(written.open(QIODevice::ReadOnly));
+    QLockFile own(path);
+    QFile written(path);
+    if (!own.tryLock(0) || !written.open(QIODevice::ReadOnly)) return false;
     content = written.readAll();
   }
   content.replace(0, content.indexOf('\n'), QByteArray::number(gonePid));
-  QFile lock(instance.lockPath());
-  QVERIFY(lock.open(QIODevice::WriteOnly));
-  lock.write(content);
-  lock.close();
-  QFile socket(instance.socketPath());
-  QVERIFY(socket.open(QIODevice::WriteOnly));
-  socket.close();
-
-  QVERIFY(instance.start());
-  QVERIFY(instance.isPrimary());
-  SingleInstance later(dir.path(), "test");
-  QVERIFY(!later.start());
-  QSignalSpy handed(&instance, &SingleInstance::filesHandedOver);
-  QVERIFY(later.handOver({"/a.jpg"}));
-  QVERIFY(handed.wait(5000));
+  QFile lock(path);
+  return lock.open(QIODevice::WriteOnly) && lock.write(content) == content.size();
 }
 
-void StartupTest::helpAndVersionNeedNoDisplay_data() {
-  QTest::addColumn<QString>("option");
-  QTest::addColumn<QString>("expected");
-  QTest::newRow("help") << "--help" << "Usage:";
-  QTest::newRow("version") << "--version" << "Lumidate " LUMIDATE_VERSION;
+}  // namespace
+
+class StartupTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void settingsDefaults() {
+    QTemporaryDir dir;
+    QSettings store(dir.filePath("s.ini"), QSettings::IniFormat);
+    Settings settings(store);
+    settings.registerDefaults();
+    QVERIFY(settings.showInformation() && !settings.showImageView() && !settings.useSingleWindow());
+    QCOMPARE(settings.tableViewRowHeight(), int(Settings::Medium));
+    QCOMPARE(settings.buildNumber(), 0);
+    // A stored choice survives the next start's defaults.
+    settings.setTableViewRowHeight(Settings::Small);
+    settings.registerDefaults();
+    QCOMPARE(settings.tableViewRowHeight(), int(Settings::Small));
+  }
+
+  // The table layout of builds before 92 is dropped once; later ones stay.
+  void oldTableLayoutIsDroppedOnce() {
+    for (const auto& [storedBuild, layoutKept] : {std::pair{0, false}, {91, false}, {92, true}}) {
+      QTemporaryDir dir;
+      QSettings store(dir.filePath("s.ini"), QSettings::IniFormat);
+      if (storedBuild) store.setValue("Lum Build Number", storedBuild);
+      Settings settings(store);
+      settings.setTableLayout("layout");
+      settings.migrateFromOlderBuild();
+      QCOMPARE(settings.tableLayout().isEmpty(), !layoutKept);
+      QCOMPARE(settings.buildNumber(), Settings::kBuildNumber);
+      settings.setTableLayout("new");
+      settings.migrateFromOlderBuild();
+      QCOMPARE(settings.tableLayout(), QByteArray("new"));
+    }
+  }
+
+  // The first instance takes the files of a second one, also where a crashed
+  // run left its lock (its process gone) and its socket file behind.
+  void secondInstanceHandsItsFilesOver() {
+    for (const bool crashedBefore : {false, true}) {
+      QTemporaryDir dir;
+      SingleInstance first(dir.path(), "test"), second(dir.path(), "test");
+      if (crashedBefore) {
+        QVERIFY(writeStaleLock(first.lockPath()));
+        QFile socket(first.socketPath());
+        QVERIFY(socket.open(QIODevice::WriteOnly));
+      }
+      QVERIFY(first.start() && first.isPrimary());
+      QVERIFY(!second.start());
+      QSignalSpy handed(&first, &SingleInstance::filesHandedOver);
+      const QStringList paths{"/photos/a.jpg", "/photos/ä b.JPG"};
+      QVERIFY(second.handOver(paths));
+      QVERIFY(handed.wait(5000));
+      QCOMPARE(handed.front().front().toStringList(), paths);
+    }
+  }
+
+  void helpAndVersionNeedNoDisplay() {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) environment.remove(name);
+    for (const auto& [option, expected] :
+         {std::pair{"--help", "Usage:"}, {"--version", "Lumidate " LUMIDATE_VERSION}}) {
+      QProcess program;
+      program.setProcessEnvironment(environment);
+      program.start(LUMIDATE_EXECUTABLE, {option});
+      QVERIFY(program.waitForFinished(30000));
+      QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+      QCOMPARE(program.exitCode(), 0);
+      QVERIFY2(program.readAllStandardOutput().contains(expected), qPrintable(program.readAllStandardError()));
+    }
+  }
+};
+
+int runStartupTests(int argc, char* argv[]) {
+  StartupTest test;
+  return QTest::qExec(&test, argc, argv);
 }
 
-void StartupTest::helpAndVersionNeedNoDisplay() {
-  QFETCH(QString, option);
-  QFETCH(QString, expected);
-  QProcess program;
-  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) environment.remove(name);
-  program.setProcessEnvironment(environment);
-  program.start(LUMIDATE_EXECUTABLE, {option});
-  QVERIFY(program.waitForFinished(30000));
-  QCOMPARE(program.exitStatus(), QProcess::NormalExit);
-  QCOMPARE(program.exitCode(), 0);
-  QVERIFY2(program.readAllStandardOutput().contains(expected.toUtf8()), qPrintable(program.readAllStandardError()));
-}
+#include "StartupTest.moc"

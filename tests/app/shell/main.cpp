@@ -1,19 +1,13 @@
-// The shell tests: openings through the document controller, and start-up.
+// The shell tests in one program: openings, the shell's windows and start-up.
 #include <QApplication>
-#include <QTest>
 
-#include "OpeningTest.h"
-#include "StartupTest.h"
-#include "WindowsTest.h"
+int runOpeningTests(int argc, char* argv[]);
+int runWindowsTests(int argc, char* argv[]);
+int runStartupTests(int argc, char* argv[]);
 
 int main(int argc, char* argv[]) {
   QApplication app(argc, argv);
-  int failed = 0;
-  OpeningTest opening;
-  failed += QTest::qExec(&opening, argc, argv);
-  WindowsTest windows;
-  failed += QTest::qExec(&windows, argc, argv);
-  StartupTest startup;
-  failed += QTest::qExec(&startup, argc, argv);
-  return failed;
+  int failed = runOpeningTests(argc, argv);
+  failed += runWindowsTests(argc, argv);
+  return failed + runStartupTests(argc, argv);
 }

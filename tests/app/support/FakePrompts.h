@@ -2,7 +2,6 @@
 // Answers the program's dialogs and alerts in window tests: each question
 // takes the answer the test put in place, and every alert is recorded.
 
-#include <deque>
 #include <functional>
 #include <optional>
 #include <utility>
@@ -14,18 +13,14 @@ class FakePrompts : public Prompts {
  public:
   std::optional<OpenRequest> nextOpenRequest;  // taken by the next open dialog
   OpenStyle nextOpenStyle = OpenStyle::OneWindow;
-  int openDialogs = 0;
-  int openStyleQuestions = 0;
-  std::vector<std::size_t> askedCounts;
+  std::vector<std::size_t> askedCounts;  // one per "how to open" question
   std::vector<Alert> alerts;
   std::function<void()> onAlert;  // runs when an alert comes up
 
   std::optional<OpenRequest> chooseFilesToOpen(QWidget*, bool) override {
-    ++openDialogs;
     return std::exchange(nextOpenRequest, std::nullopt);
   }
   OpenStyle askHowToOpen(std::size_t count) override {
-    ++openStyleQuestions;
     askedCounts.push_back(count);
     return nextOpenStyle;
   }
