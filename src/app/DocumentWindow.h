@@ -55,6 +55,12 @@ class DocumentWindow : public QMainWindow {
   };
   // The close sheet's texts; none when nothing is edited.
   virtual std::optional<CloseTexts> closeAlertTexts() const = 0;
+  // The same from a document's own title and message.
+  template <typename Texts>
+  static std::optional<CloseTexts> closeTextsFrom(const std::optional<Texts>& texts) {
+    if (!texts) return std::nullopt;
+    return CloseTexts{texts->title, texts->message};
+  }
   // Starts saving every edited file for a close (and a quit). The subclass
   // calls closeSaveFinished when the save is over.
   virtual void saveAllForClose(bool quitting) = 0;

@@ -233,9 +233,7 @@ std::size_t MultiFileWindow::editedFileCount() const { return document_->editedF
 QUndoStack& MultiFileWindow::undoStack() { return document_->undoStack(); }
 
 std::optional<DocumentWindow::CloseTexts> MultiFileWindow::closeAlertTexts() const {
-  const auto texts = document_->getTitleForAlertWhenCloseDociment();
-  if (!texts) return std::nullopt;
-  return CloseTexts{texts->title, texts->message};
+  return closeTextsFrom(document_->getTitleForAlertWhenCloseDociment());
 }
 
 void MultiFileWindow::saveAllForClose(bool quitting) {

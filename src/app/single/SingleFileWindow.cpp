@@ -97,9 +97,7 @@ std::vector<std::filesystem::path> SingleFileWindow::openFiles() const {
 }
 
 std::optional<DocumentWindow::CloseTexts> SingleFileWindow::closeAlertTexts() const {
-  const auto texts = document_->getTitleForAlertWhenCloseDociment();
-  if (!texts) return std::nullopt;
-  return CloseTexts{texts->title, texts->message};
+  return closeTextsFrom(document_->getTitleForAlertWhenCloseDociment());
 }
 
 void SingleFileWindow::saveAllForClose(bool quitting) {
