@@ -231,5 +231,9 @@
         <source>Show Information</source>
         <translation>Show Information</translation>
     </message>
+    <message>
+        <source>Multiple Values</source>
+        <translation>Multiple Values</translation>
+    </message>
 </context>
 </TS>
