@@ -46,7 +46,9 @@ SingleFileWindow::SingleFileWindow(std::unique_ptr<LumSingleFileDoc> document, A
   auto* column = new QVBoxLayout(central);
   photo_ = new PhotoView(central);
   column->addWidget(photo_, 1);
+  column->addSpacing(8);
   column->addWidget(buildDates(central));
+  column->addSpacing(4);
   column->addLayout(buildButtons(central));
   setCentralWidget(central);
   sheet_ = new ChangeByIntervalSheet(sheetModel_, this);
