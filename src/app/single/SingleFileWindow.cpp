@@ -52,6 +52,10 @@ SingleFileWindow::SingleFileWindow(std::unique_ptr<LumSingleFileDoc> document, A
   column->addLayout(buildButtons(central));
   setCentralWidget(central);
   sheet_ = new ChangeByIntervalSheet(sheetModel_, this);
+  connect(sheet_, &QDialog::finished, this, [this] {
+    raise();
+    activateWindow();
+  });
 
   buildActions();
   connect(document_.get(), &LumSingleFileDoc::datesChanged, this, &SingleFileWindow::showDocument);
@@ -96,7 +100,7 @@ QLayout* SingleFileWindow::buildButtons(QWidget* parent) {
   link_->setChecked(document_->isLinked());
   connect(link_, &QPushButton::toggled, this, [this](bool on) { document_->setLinked(on); });
   interval_ = makeButton(tr("Change by Interval..."), "intervalButton", parent);
-  connect(interval_, &QPushButton::clicked, this, [this] { sheet_->openFor(*document_); });
+  connect(interval_, &QPushButton::clicked, this, &SingleFileWindow::showIntervalSheet);
   restore_ = makeButton(tr("Restore"), "restoreButton", parent);
   connect(restore_, &QPushButton::clicked, this, [this] { document_->restore(); });
   saveButton_ = makeButton(LumLocalized::text("Save"), "saveFileButton", parent);
@@ -128,6 +132,13 @@ void SingleFileWindow::buildActions() {
   connect(link_, &QPushButton::toggled, link, &QAction::setChecked);
   addActions({close, save_, revert_, interval, link});
   buildMenuBar(*this, context().actions, WindowMenuActions{close, save_, nullptr, nullptr, {revert_, nullptr, link, interval}});
+}
+
+void SingleFileWindow::showIntervalSheet() {
+  // A field still being typed in ends its editing first, so the sheet
+  // starts from the value the picker shows.
+  if (QWidget* focused = focusWidget()) focused->clearFocus();
+  sheet_->openFor(*document_);
 }
 
 void SingleFileWindow::showDocument() {

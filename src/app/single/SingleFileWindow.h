@@ -43,6 +43,7 @@ class SingleFileWindow : public DocumentWindow {
   QWidget* buildDates(QWidget* parent);
   QLayout* buildButtons(QWidget* parent);
   void buildActions();
+  void showIntervalSheet();
   // Pickers, buttons and menu states as the document now stands.
   void showDocument();
   void showStates();

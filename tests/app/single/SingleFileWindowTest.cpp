@@ -45,9 +45,12 @@ struct Shell {
   doctest_support::TempFolder folder;
 
   // A window over a new photo with these dates, shown.
-  std::unique_ptr<SingleFileWindow> open(const PhotoDates& dates, const std::string& name = "a.jpg") {
+  std::unique_ptr<SingleFileWindow> open(const PhotoDates& dates) {
+    return openFile(doctest_support::writePhoto(folder, "a.jpg", dates));
+  }
+  std::unique_ptr<SingleFileWindow> openFile(const fs::path& path) {
     auto doc = std::make_unique<LumSingleFileDoc>();
-    if (!doc->readFromURL(doctest_support::writePhoto(folder, name, dates), "JPEG", nullptr)) return nullptr;
+    if (!doc->readFromURL(path, "JPEG", nullptr)) return nullptr;
     auto window = std::make_unique<SingleFileWindow>(std::move(doc), context);
     window->show();
     return window;
@@ -182,7 +185,7 @@ class SingleFileWindowTest : public QObject {
     QVERIFY(!window->findChild<QPushButton*>("saveFileButton")->isEnabled());
   }
 
-  void noDatesDisableTheButtonsAndThePhotoIsNotEnlarged() {
+  void noDatesDisableTheButtonsAndThePhotoFitsWithoutEnlarging() {
     Shell s;
     auto window = s.open({std::nullopt, std::nullopt, std::nullopt});
     QVERIFY(!window->findChild<QPushButton*>("linkButton")->isEnabled());
@@ -190,6 +193,22 @@ class SingleFileWindowTest : public QObject {
     QTRY_VERIFY(window->photo().hasImage());
     QVERIFY(window->photo().width() > 16);
     QCOMPARE(window->photo().shownSize(), QSize(16, 8));  // the builder's small picture
+
+    // A large photo fits the view, keeping its proportions, and fits again
+    // when the window grows.
+    const fs::path big = s.folder / "big.jpg";
+    doctest_support::writeBytes(big, lumtest::encodeJpeg(1600, 800));
+    auto large = s.openFile(big);
+    QVERIFY(large);
+    QTRY_VERIFY(large->photo().hasImage());
+    for (const QSize size : {QSize(500, 600), QSize(900, 700)}) {
+      large->resize(size);
+      QTRY_COMPARE(large->size(), size);
+      const QSize shown = large->photo().shownSize();
+      QVERIFY(shown.width() <= large->photo().width() && shown.height() <= large->photo().height());
+      QVERIFY(shown.width() == large->photo().width() || shown.height() == large->photo().height());
+      QVERIFY(std::abs(shown.width() - 2 * shown.height()) <= 2);
+    }
   }
 
   void closingPostsTheDocumentChange() {
