@@ -3,6 +3,8 @@
 // through the document controller as the program does; alerts come from
 // the program's own dialogs and are pictured the moment they show.
 #include <QAbstractButton>
+#include <QComboBox>
+#include <QSpinBox>
 #include <QApplication>
 #include <QDir>
 #include <QMessageBox>
@@ -23,7 +25,10 @@
 #include "app/multi/MultiFileActions.h"
 #include "app/multi/MultiFileWindow.h"
 #include "app/preferences/Settings.h"
+#include "app/sheets/ChangeByIntervalSheet.h"
 #include "app/sheets/SavingSheet.h"
+#include "app/single/PhotoView.h"
+#include "app/single/SingleFileWindow.h"
 #include "documents/LumMultiFileDoc.h"
 
 namespace fs = std::filesystem;
@@ -31,7 +36,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kWaitMs = 20000;
-constexpr int kPictures = 9;
+constexpr int kPictures = 11;
 
 // The program's dialogs, except that a handed-over folder opens in one
 // window without asking.
@@ -139,6 +144,30 @@ void shootCloseSheet(Stage& s) {
   }
 }
 
+// One photo without DateTimeDigitized in a window of its own (its picker
+// disabled), then its interval sheet shifting a date out of range.
+void shootSingleWindow(DocumentController& controller, Screenshots::Session& session, const fs::path& photo) {
+  for (DocumentWindow* w : controller.windows()) delete w;
+  controller.openFiles({photo}, false);
+  SingleFileWindow* window = nullptr;
+  waitFor([&] {
+    for (DocumentWindow* w : controller.windows())
+      if ((window = qobject_cast<SingleFileWindow*>(w))) return !controller.isDocumentOpening();
+    return false;
+  }, "the single-file window");
+  if (!window) return;
+  waitFor([&] { return window->photo().hasImage(); }, "the photo");
+  session.shoot(QStringLiteral("single-window"), *window);
+
+  window->findChild<QAbstractButton*>(QStringLiteral("intervalButton"))->click();
+  ChangeByIntervalSheet& sheet = window->intervalSheet();
+  waitFor([&] { return sheet.isVisible(); }, "the interval sheet");
+  sheet.findChild<QComboBox*>(QStringLiteral("modePopup"))->setCurrentIndex(0);  // backward
+  sheet.field(0).setValue(2100);
+  session.shoot(QStringLiteral("single-interval-sheet"), *window, &sheet);
+  sheet.reject();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -182,6 +211,7 @@ int main(int argc, char** argv) {
   shootSavingSheet(stage);
   shootSaveFailure(stage);
   shootCloseSheet(stage);
+  shootSingleWindow(controller, session, photos / "only-original.jpg");
   std::printf("%d pictures in %s\n", session.written(), qPrintable(args[2]));
   for (DocumentWindow* w : controller.windows()) delete w;
   return session.written() == kPictures ? 0 : 1;

@@ -1,15 +1,21 @@
 #pragma once
-// A plain window over one photo's document: its name and path, the three
-// dates read-only, Save, undo and the close review.
+// The window of one photo's document: the photo, the three date pickers,
+// the link, change-by-interval and restore buttons, and Save. It lays the
+// widgets out and binds them to the document, which holds every rule; the
+// window owns the document and, for now, the interval sheet's model.
 
 #include <array>
 #include <memory>
 
 #include "app/DocumentWindow.h"
 #include "documents/DateTargets.h"
+#include "documents/LumCTISheet.h"
 #include "documents/LumSingleFileDoc.h"
 
-class QLabel;
+class ChangeByIntervalSheet;
+class DatePickerWidget;
+class PhotoView;
+class QAction;
 class QPushButton;
 
 class SingleFileWindow : public DocumentWindow {
@@ -20,6 +26,9 @@ class SingleFileWindow : public DocumentWindow {
   ~SingleFileWindow() override;
 
   LumSingleFileDoc& document() { return *document_; }
+  PhotoView& photo() const { return *photo_; }
+  DatePickerWidget& picker(DateTargets::Index which) const { return *pickers_[which]; }
+  ChangeByIntervalSheet& intervalSheet() const { return *sheet_; }
 
   std::vector<std::filesystem::path> openFiles() const override;
   std::size_t editedFileCount() const override { return document_->editedFileCount(); }
@@ -28,14 +37,29 @@ class SingleFileWindow : public DocumentWindow {
  protected:
   std::optional<CloseTexts> closeAlertTexts() const override;
   void saveAllForClose(bool quitting) override;
+  void changeEvent(QEvent* event) override;
 
  private:
+  QWidget* buildDates(QWidget* parent);
+  QLayout* buildButtons(QWidget* parent);
   void buildActions();
-  void showDates();
+  void showIntervalSheet();
+  // Pickers, buttons and menu states as the document now stands.
+  void showDocument();
+  void showStates();
   void saveFinished(const LumSingleFileDoc::SaveOutcome& outcome);
+  void windowClosing();
 
   std::unique_ptr<LumSingleFileDoc> document_;
-  std::array<QLabel*, DateTargets::kCount> dateLabels_{};
+  LumCTISheet sheetModel_;
+  PhotoView* photo_ = nullptr;
+  std::array<DatePickerWidget*, DateTargets::kCount> pickers_{};
+  QPushButton* link_ = nullptr;
+  QPushButton* interval_ = nullptr;
+  QPushButton* restore_ = nullptr;
   QPushButton* saveButton_ = nullptr;
+  QAction* save_ = nullptr;
+  QAction* revert_ = nullptr;
+  ChangeByIntervalSheet* sheet_ = nullptr;
   bool savingForClose_ = false;
 };

@@ -1,0 +1,228 @@
+// The single-file window over real photo files: the link, the interval
+// sheet's previews and OK, saving exactly the changed dates, restore, the
+// photo and the window's notifications.
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QSpinBox>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUndoGroup>
+
+#include <memory>
+
+#include "app/AppActions.h"
+#include "app/AppContext.h"
+#include "app/preferences/Settings.h"
+#include "app/sheets/ChangeByIntervalSheet.h"
+#include "app/single/PhotoView.h"
+#include "app/single/SingleFileWindow.h"
+#include "app/support/FakePrompts.h"
+#include "datetime/DateAdditions.h"
+#include "documents/LumNotificationCenter.h"
+#include "documents/PhotoFiles.h"
+
+namespace fs = std::filesystem;
+using doctest_support::PhotoDates;
+using Control = OrbDatePicker::Control;
+
+namespace {
+
+constexpr const char* kA = "2020:01:31 10:00:00";
+constexpr const char* kB = "2019:06:01 08:30:00";
+
+struct Shell {
+  QTemporaryDir settingsDir;
+  QSettings store{settingsDir.filePath("settings.ini"), QSettings::IniFormat};
+  Settings settings{store};
+  FakePrompts prompts;
+  QUndoGroup undoGroup;
+  AppActions actions{undoGroup};
+  AppContext context{settings, prompts, actions};
+  doctest_support::TempFolder folder;
+
+  // A window over a new photo with these dates, shown.
+  std::unique_ptr<SingleFileWindow> open(const PhotoDates& dates) {
+    return openFile(doctest_support::writePhoto(folder, "a.jpg", dates));
+  }
+  std::unique_ptr<SingleFileWindow> openFile(const fs::path& path) {
+    auto doc = std::make_unique<LumSingleFileDoc>();
+    if (!doc->readFromURL(path, "JPEG", nullptr)) return nullptr;
+    auto window = std::make_unique<SingleFileWindow>(std::move(doc), context);
+    window->show();
+    return window;
+  }
+};
+
+// Types an hour into a picker's field and ends the editing, as the picker
+// control does.
+void typeHour(OrbDatePicker& picker, const char* hour) {
+  picker.setFocused(Control::hourField);
+  QVERIFY(picker.controlTextDidChange(Control::hourField, hour));
+  picker.controlTextDidEndEditing(Control::hourField);
+}
+
+std::string text(const std::optional<Instant>& date) { return date ? DateAdditions::tiffDateString(*date) : "none"; }
+
+}  // namespace
+
+class SingleFileWindowTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void linkOnSetsAllThreeWithOneUndo() {
+    Shell s;
+    auto window = s.open({kA, kB, kA});
+    QVERIFY(window);
+    auto* link = window->findChild<QPushButton*>("linkButton");
+    QCOMPARE(link->text(), QStringLiteral("Synchronize"));
+    QCOMPARE(link->accessibleName(), link->text());
+    link->click();
+    QVERIFY(window->document().isLinked());
+    typeHour(window->document().picker(DateTargets::Original), "14");
+    for (const auto& date : window->document().currentDates()) QCOMPARE(text(date), std::string("2020:01:31 14:00:00"));
+    QCOMPARE(window->document().picker(DateTargets::Digitized).dateTimeStringForTIFF().value_or(""),
+             std::string("2020:01:31 14:00:00"));
+    QVERIFY(window->isWindowModified());
+    QCOMPARE(window->undoStack().count(), 1);
+    window->undoStack().undo();
+    const LumSingleFileDoc::Dates& back = window->document().currentDates();
+    QCOMPARE(text(back[0]) + text(back[1]) + text(back[2]), std::string(kA) + kB + kA);
+    QVERIFY(!window->isWindowModified());
+    QVERIFY(!window->findChild<QPushButton*>("saveFileButton")->isEnabled());
+  }
+
+  void sheetPreviewsOKStateAndShift() {
+    Shell s;
+    auto window = s.open({kA, kB, std::nullopt});
+    window->findChild<QPushButton*>("intervalButton")->click();
+    ChangeByIntervalSheet& sheet = window->intervalSheet();
+    QTRY_VERIFY(sheet.isVisible());
+    QCOMPARE(sheet.windowModality(), Qt::WindowModal);
+    QVERIFY(!sheet.target(DateTargets::Edited).isEnabled());  // the file has no such date
+
+    auto* mode = sheet.findChild<QComboBox*>("modePopup");
+    mode->setCurrentIndex(0);  // Backward
+    sheet.field(0).setValue(2020);
+    QVERIFY(sheet.preview(DateTargets::Original).text().startsWith(QString::fromUtf8("\xE2\x9D\x97")));
+    QCOMPARE(sheet.preview(DateTargets::Original).palette().color(QPalette::WindowText), QColor(Qt::red));
+    QVERIFY(!sheet.okButton().isEnabled());
+    // Only a checked date counts.
+    sheet.target(DateTargets::Original).setChecked(false);
+    sheet.target(DateTargets::Digitized).setChecked(false);
+    QVERIFY(sheet.okButton().isEnabled());
+    QVERIFY(sheet.preview(DateTargets::Original).text().isEmpty());
+    sheet.target(DateTargets::Original).setChecked(true);
+    sheet.target(DateTargets::Digitized).setChecked(true);
+
+    mode->setCurrentIndex(1);  // Forward
+    sheet.field(0).setValue(0);
+    sheet.field(2).setValue(1);
+    sheet.field(3).setValue(5);
+    QCOMPARE(sheet.preview(DateTargets::Original).text(), QStringLiteral("2020:02:01 15:00:00"));
+    QCOMPARE(sheet.preview(DateTargets::Digitized).text(), QStringLiteral("2019:06:02 13:30:00"));
+    QVERIFY(sheet.okButton().isEnabled());
+    QTest::keyClick(&sheet.field(3), Qt::Key_Return);  // OK is the default button
+    QTRY_VERIFY(!sheet.isVisible());
+    const LumSingleFileDoc::Dates& shifted = window->document().currentDates();
+    QCOMPARE(text(shifted[0]) + "|" + text(shifted[1]), std::string("2020:02:01 15:00:00|2019:06:02 13:30:00"));
+    QCOMPARE(window->undoStack().count(), 1);
+    // The fields are cleared for the next use, and Cancel changes nothing.
+    window->findChild<QPushButton*>("intervalButton")->click();
+    QTRY_VERIFY(sheet.isVisible());
+    for (int i = 0; i < 6; ++i) QCOMPARE(sheet.field(i).value(), 0);
+    sheet.field(0).setValue(1);
+    sheet.findChild<QPushButton*>("cancelButton")->click();
+    QTRY_VERIFY(!sheet.isVisible());
+    QCOMPARE(sheet.field(0).value(), 0);
+    QCOMPARE(window->undoStack().count(), 1);
+  }
+
+  void saveWritesExactlyTheChangedPickers_data() {
+    QTest::addColumn<int>("files");  // 0: all three dates, 1: the original only
+    QTest::addColumn<bool>("linked");
+    QTest::addColumn<int>("picker");
+    QTest::newRow("digitized alone") << 0 << false << int(DateTargets::Digitized);
+    QTest::newRow("linked") << 0 << true << int(DateTargets::Edited);
+    QTest::newRow("linked, absent dates stay absent") << 1 << true << int(DateTargets::Original);
+  }
+  void saveWritesExactlyTheChangedPickers() {
+    QFETCH(int, files);
+    QFETCH(bool, linked);
+    QFETCH(int, picker);
+    const PhotoDates dates = files == 0 ? PhotoDates{kA, kB, kA} : PhotoDates{kA, std::nullopt, std::nullopt};
+    Shell s;
+    auto window = s.open(dates);
+    window->document().setLinked(linked);
+    typeHour(window->document().picker(static_cast<DateTargets::Index>(picker)), "23");
+    // Linked, every date the file has takes the typed picker's value.
+    const std::array<std::optional<std::string>, 3> texts{dates.original, dates.digitized, dates.edited};
+    const auto changed = [&](int which) -> std::optional<std::string> {
+      if (!texts[which] || (!linked && which != picker)) return texts[which];
+      return std::string(*texts[picker]).replace(11, 2, "23");
+    };
+    const PhotoDates expected{changed(0), changed(1), changed(2)};
+    QSignalSpy saved(&window->document(), &LumSingleFileDoc::saveFinished);
+    window->findChild<QPushButton*>("saveFileButton")->click();
+    QVERIFY(saved.count() > 0 || saved.wait());
+    QVERIFY(window->document().lastSaveOutcome().saved);
+    QCOMPARE(doctest_support::readBytes(s.folder / "a.jpg"), doctest_support::photoBytes(expected));
+    QVERIFY(!window->isWindowModified());
+  }
+
+  void restoreTakesTheFileValuesAndClearsUndo() {
+    Shell s;
+    auto window = s.open({kA, kB, kA});
+    typeHour(window->document().picker(DateTargets::Original), "03");
+    QVERIFY(window->isWindowModified());
+    window->findChild<QPushButton*>("restoreButton")->click();
+    QCOMPARE(text(window->document().currentDateTimeOriginal()), std::string(kA));
+    QCOMPARE(window->undoStack().count(), 0);
+    QVERIFY(!window->isWindowModified());
+    QVERIFY(!window->findChild<QPushButton*>("saveFileButton")->isEnabled());
+  }
+
+  void noDatesDisableTheButtonsAndThePhotoFitsWithoutEnlarging() {
+    Shell s;
+    auto window = s.open({std::nullopt, std::nullopt, std::nullopt});
+    QVERIFY(!window->findChild<QPushButton*>("linkButton")->isEnabled());
+    QVERIFY(!window->findChild<QPushButton*>("intervalButton")->isEnabled());
+    QTRY_VERIFY(window->photo().hasImage());
+    QVERIFY(window->photo().width() > 16);
+    QCOMPARE(window->photo().shownSize(), QSize(16, 8));  // the builder's small picture
+
+    // A large photo fits the view, keeping its proportions, and fits again
+    // when the window grows.
+    const fs::path big = s.folder / "big.jpg";
+    doctest_support::writeBytes(big, lumtest::encodeJpeg(1600, 800));
+    auto large = s.openFile(big);
+    QVERIFY(large);
+    QTRY_VERIFY(large->photo().hasImage());
+    for (const QSize size : {QSize(500, 600), QSize(900, 700)}) {
+      large->resize(size);
+      QTRY_COMPARE(large->size(), size);
+      const QSize shown = large->photo().shownSize();
+      QVERIFY(shown.width() <= large->photo().width() && shown.height() <= large->photo().height());
+      QVERIFY(shown.width() == large->photo().width() || shown.height() == large->photo().height());
+      QVERIFY(std::abs(shown.width() - 2 * shown.height()) <= 2);
+    }
+  }
+
+  void closingPostsTheDocumentChange() {
+    Shell s;
+    auto window = s.open({kA, kA, kA});
+    std::vector<std::pair<QString, const void*>> posted;
+    QObject::connect(&LumNotificationCenter::defaultCenter(), &LumNotificationCenter::posted, window.get(),
+                     [&](const QString& name, const void* object) { posted.emplace_back(name, object); });
+    window->close();
+    QVERIFY(!posted.empty());
+    QCOMPARE(posted.back().first, QStringLiteral("LumDocumentDidChangeNotification"));
+    QVERIFY(posted.back().second == nullptr);
+  }
+};
+
+QTEST_MAIN(SingleFileWindowTest)
+#include "SingleFileWindowTest.moc"
