@@ -1,30 +1,277 @@
-// A first, read-only face of the picker: the value as text. The editable
-// control with its fields and stepper replaces it.
 #include "app/widgets/DatePickerWidget.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QScopedValueRollback>
+#include <QStackedLayout>
 
-#include "datetime/OrbDatePicker.h"
+#include <algorithm>
+
+#include "app/widgets/DatePickerFace.h"
+#include "app/widgets/DatePickerStepper.h"
+#include "app/widgets/DatePickerUndoSession.h"
 #include "documents/LumLocalized.h"
 
+using Control = OrbDatePicker::Control;
+
+namespace {
+
+constexpr std::array<const char*, OrbDatePicker::kFieldCount> kFieldNames = {
+    QT_TRANSLATE_NOOP("DatePickerWidget", "Year"),   QT_TRANSLATE_NOOP("DatePickerWidget", "Month"),
+    QT_TRANSLATE_NOOP("DatePickerWidget", "Day"),    QT_TRANSLATE_NOOP("DatePickerWidget", "Hour"),
+    QT_TRANSLATE_NOOP("DatePickerWidget", "Minute"), QT_TRANSLATE_NOOP("DatePickerWidget", "Second"),
+    QT_TRANSLATE_NOOP("DatePickerWidget", "Millisecond")};
+
+std::size_t indexOf(Control field) { return static_cast<std::size_t>(field); }
+
+// A field's text as shown when nobody types in it: leading zeros to the
+// field's width ("7" as "07", "1" as "0001").
+QString padded(const std::string& text, int digits) {
+  QString shown = QString::fromStdString(text);
+  const bool allDigits = !shown.isEmpty() && std::all_of(shown.begin(), shown.end(), [](QChar c) { return c.isDigit(); });
+  if (allDigits && shown.size() < digits) shown.prepend(QString(digits - shown.size(), u'0'));
+  return shown;
+}
+
+}  // namespace
+
 DatePickerWidget::DatePickerWidget(OrbDatePicker& model, const QString& label, QWidget* parent)
-    : QWidget(parent), model_(model) {
+    : QWidget(parent), model_(model), undo_(std::make_unique<DatePickerUndoSession>()) {
+  installDatePickerAccessibility();
   setAccessibleName(label);
+  model_.setUndoManager(undo_.get());
+  const int height = DatePickerFace::lineEditHeight(this);
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  text_ = new QLabel(this);
-  layout->addWidget(text_);
+  layout->setSpacing(2);
+  layout->addWidget(buildFace(height));
+  stepper_ = new DatePickerStepper(height, this);
+  connect(stepper_, &DatePickerStepper::stepped, this, &DatePickerWidget::onStepped);
+  layout->addWidget(stepper_);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  setTabChain();
   refresh();
 }
 
-DatePickerWidget::~DatePickerWidget() = default;
+DatePickerWidget::~DatePickerWidget() {
+  // The model may outlive this control; its undo history goes with it.
+  model_.setUndoManager(nullptr);
+}
+
+QWidget* DatePickerWidget::buildFace(int height) {
+  auto* face = new DatePickerFace(this);
+  face_ = face;
+  face->setFixedHeight(height);
+  auto* frame = new QHBoxLayout(face);
+  const int rim = face->frameWidth();
+  frame->setContentsMargins(rim + 2, rim, rim + 2, rim);
+  // The fields and the "Multiple Values" text take turns in the same
+  // place; the face keeps the size of the larger, so nothing moves.
+  auto* stack = new QWidget(face);
+  pages_ = new QStackedLayout(stack);
+  fieldRow_ = new DatePickerFieldRow(stack);
+  buildFields();
+  mixedText_ = new QLabel(LumLocalized::text("Multiple Values"), stack);
+  mixedText_->setAlignment(Qt::AlignCenter);
+  mixedText_->setForegroundRole(QPalette::PlaceholderText);
+  pages_->addWidget(fieldRow_);
+  pages_->addWidget(mixedText_);
+  frame->addWidget(stack);
+  return face;
+}
+
+void DatePickerWidget::buildFields() {
+  std::array<QWidget*, OrbDatePicker::kFieldCount> row{};
+  for (std::size_t i = 0; i < OrbDatePicker::kFieldCount; ++i) {
+    const auto field = static_cast<Control>(i);
+    if (!model_.field(field).present) continue;
+    auto* editor = new PickerFieldEditor(*this, field, model_.field(field).integerDigits, fieldRow_);
+    editor->setAccessibleName(tr(kFieldNames[i]));
+    connect(editor, &QLineEdit::textChanged, this, [this, field](const QString& text) { onTextChanged(field, text); });
+    fields_[i] = editor;
+    row[i] = editor;
+  }
+  fieldRow_->setFields(row);
+}
+
+void DatePickerWidget::setTabChain() {
+  QWidget* previous = nullptr;
+  for (Control control : model_.keyViewChain()) {
+    QWidget* next = control == Control::stepper ? static_cast<QWidget*>(stepper_) : fields_[indexOf(control)];
+    if (!next) continue;
+    if (previous)
+      QWidget::setTabOrder(previous, next);
+    else
+      setFocusProxy(next);  // focusing the picker focuses its first field
+    previous = next;
+  }
+}
+
+PickerFieldEditor* DatePickerWidget::fieldEditor(Control field) const {
+  return field == Control::stepper ? nullptr : fields_[indexOf(field)];
+}
+
+// --- Drawing the model -------------------------------------------------------------
 
 void DatePickerWidget::refresh() {
-  if (model_.isMixed()) {
-    text_->setText(LumLocalized::text("Multiple Values"));
+  const QScopedValueRollback guard(refreshing_, true);
+  pages_->setCurrentWidget(model_.isMixed() ? static_cast<QWidget*>(mixedText_) : fieldRow_);
+  for (std::size_t i = 0; i < OrbDatePicker::kFieldCount; ++i) refreshField(static_cast<Control>(i));
+  fieldRow_->setDrawSeparators(model_.drawColon());
+  // A disabled picker keeps its stepper only while it shows "Multiple
+  // Values": there a click means "now".
+  stepper_->setEnabled(model_.isStepperEnabled() && (model_.isEnabled() || model_.isMixed()));
+  face_->update();
+}
+
+void DatePickerWidget::refreshField(Control control) {
+  PickerFieldEditor* editor = fieldEditor(control);
+  if (!editor) return;
+  const OrbDatePicker::Field& field = model_.field(control);
+  // While mixed the row is not on show; it keeps its layout for later.
+  if (!model_.isMixed()) editor->setVisible(!field.hidden);
+  editor->setEnabled(field.enabled);
+  // The field being typed in keeps the text as typed ("1", not "01") as
+  // long as it means the model's value, so the next digit goes after it.
+  bool typedOk = false;
+  const long typed = editor->text().toLong(&typedOk);
+  if (editor->hasFocus() && typedOk && !field.text.empty() && typed == field.integerValue()) return;
+  const QString text = padded(field.text, field.integerDigits);
+  if (editor->text() != text) editor->setText(text);
+}
+
+DatePickerWidget::Shown DatePickerWidget::shown() const {
+  Shown now{model_.dateTimeValues(), {}, model_.isMixed(), model_.isEnabled()};
+  for (std::size_t i = 0; i < OrbDatePicker::kFieldCount; ++i) now.texts[i] = model_.field(static_cast<Control>(i)).text;
+  return now;
+}
+
+void DatePickerWidget::finishEdit(const Shown& before) {
+  if (shown() != before) emit edited();
+}
+
+// --- Focus ---------------------------------------------------------------------------
+
+void DatePickerWidget::takeFocusFromQt() {
+  const QWidget* focus = QApplication::focusWidget();
+  std::optional<Control> control;
+  for (std::size_t i = 0; i < OrbDatePicker::kFieldCount; ++i)
+    if (focus && fields_[i] == focus) control = static_cast<Control>(i);
+  if (focus && (focus == stepper_ || stepper_->isAncestorOf(focus))) control = Control::stepper;
+  model_.setFocused(control);
+}
+
+void DatePickerWidget::giveFocusToQt() {
+  const std::optional<Control> control = model_.focused();
+  if (!control) return;
+  QWidget* target = *control == Control::stepper ? static_cast<QWidget*>(stepper_) : fields_[indexOf(*control)];
+  if (target && !target->hasFocus()) target->setFocus(Qt::OtherFocusReason);
+}
+
+void DatePickerWidget::endEditing(Control field) {
+  editing_.reset();
+  model_.controlTextDidEndEditing(field);
+}
+
+void DatePickerWidget::fieldFocusIn(Control field) {
+  model_.setFocused(field);
+  face_->update();
+}
+
+void DatePickerWidget::fieldFocusOut(Control field, Qt::FocusReason reason) {
+  face_->update();
+  // Another window or a menu taking the focus for a while ends nothing.
+  if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) return;
+  if (editing_ == field) endEditing(field);
+  const QScopedValueRollback guard(refreshing_, true);
+  refreshField(field);  // leading zeros again
+}
+
+// --- What the user does --------------------------------------------------------------
+
+void DatePickerWidget::onTextChanged(Control field, const QString& text) {
+  if (refreshing_) return;
+  const Shown before = shown();
+  PickerFieldEditor* editor = fieldEditor(field);
+  if (!model_.controlTextDidChange(field, text.toStdString())) {
+    // A field is never left empty nor holds what the model refuses: the
+    // previous text comes back, all selected, with a beep.
+    {
+      const QScopedValueRollback guard(refreshing_, true);
+      const std::string& previous = model_.field(field).text;
+      editor->setText(editor->hasFocus() ? QString::fromStdString(previous)
+                                         : padded(previous, model_.field(field).integerDigits));
+    }
+    editor->selectAll();
+    QApplication::beep();
+    emit textRefused();
     return;
   }
-  text_->setText(QString::fromStdString(model_.dateTimeStringForTIFF().value_or("")));
-  setEnabled(model_.isEnabled());
+  if (editor->hasFocus()) editing_ = field;
+  // The model may have lowered the day after a month or year change.
+  refresh();
+  finishEdit(before);
+}
+
+bool DatePickerWidget::fieldKey(Control field, int keyCode, unsigned long modifierFlags, bool selectionEmpty) {
+  model_.setFocused(field);
+  const Shown before = shown();
+  if (!model_.keyDown(keyCode, modifierFlags, selectionEmpty)) return false;
+  // Tab with no neighbour inside the picker: Qt's chain leaves it.
+  if (keyCode == OrbDatePicker::kKeyTab && model_.focused() == field) return false;
+  if (keyCode == OrbDatePicker::kKeyUp || keyCode == OrbDatePicker::kKeyDown) {
+    refresh();
+    fieldEditor(field)->selectAll();
+    if (shown() != before) editing_ = field;
+  }
+  giveFocusToQt();
+  finishEdit(before);
+  return true;
+}
+
+void DatePickerWidget::onStepped(int value) {
+  const Shown before = shown();
+  takeFocusFromQt();
+  model_.stepperMouseDown(value);
+  refresh();
+  giveFocusToQt();
+  const std::optional<Control> focused = model_.focused();
+  if (PickerFieldEditor* editor = focused ? fieldEditor(*focused) : nullptr) {
+    editor->selectAll();
+    // A click on "Multiple Values" or an empty picker ends its own editing
+    // in the model; only a step of a shown value starts an editing session.
+    if (!before.mixed && before.enabled && shown() != before) editing_ = *focused;
+  }
+  finishEdit(before);
+}
+
+bool DatePickerWidget::fieldPaste(Control field, const QString& text) {
+  model_.setFocused(field);
+  const Shown before = shown();
+  if (!model_.paste(text.toStdString())) return false;
+  refresh();
+  finishEdit(before);
+  return true;
+}
+
+bool DatePickerWidget::canUndoField(bool redo) const { return redo ? undo_->canRedo() : undo_->canUndo(); }
+
+void DatePickerWidget::undoField(Control field, bool redo) {
+  const Shown before = shown();
+  if (redo)
+    undo_->redo();
+  else
+    undo_->undo();
+  // The model puts the old value back without reporting it; its owner
+  // hears of it as of any other change of the value.
+  if (shown() != before && model_.delegate()) model_.delegate()->datePickerValueDidChange(model_);
+  refresh();
+  fieldEditor(field)->selectAll();
+  finishEdit(before);
+}
+
+void DatePickerWidget::fieldReturn(Control field) {
+  if (editing_ == field) endEditing(field);
+  fieldEditor(field)->selectAll();
 }
