@@ -181,6 +181,10 @@ void DatePickerWidget::fieldFocusIn(Control field) {
 
 void DatePickerWidget::fieldFocusOut(Control field, Qt::FocusReason reason) {
   face_->update();
+  // The model's focus says which picker of a window the user is in (a
+  // paste reaches the owner without naming its picker).
+  const QWidget* focus = QApplication::focusWidget();
+  if (!focus || !isAncestorOf(focus)) model_.setFocused(std::nullopt);
   // Another window or a menu taking the focus for a while ends nothing.
   if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) return;
   if (editing_ == field) endEditing(field);
