@@ -29,7 +29,8 @@ std::size_t indexOf(Control field) { return static_cast<std::size_t>(field); }
 // field's width ("7" as "07", "1" as "0001").
 QString padded(const std::string& text, int digits) {
   QString shown = QString::fromStdString(text);
-  const bool allDigits = !shown.isEmpty() && std::all_of(shown.begin(), shown.end(), [](QChar c) { return c.isDigit(); });
+  const bool allDigits =
+      !shown.isEmpty() && std::all_of(shown.begin(), shown.end(), [](QChar c) { return c.isDigit(); });
   if (allDigits && shown.size() < digits) shown.prepend(QString(digits - shown.size(), u'0'));
   return shown;
 }
@@ -55,6 +56,11 @@ DatePickerWidget::DatePickerWidget(OrbDatePicker& model, const QString& label, Q
 }
 
 DatePickerWidget::~DatePickerWidget() {
+  // Deleting the children later moves the focus, and the fields would
+  // report it to a picker that is no longer whole.
+  for (PickerFieldEditor* field : fields_)
+    if (field) field->detachHost();
+  disconnect(stepper_, nullptr, this, nullptr);
   // The model may outlive this control; its undo history goes with it.
   model_.setUndoManager(nullptr);
 }
@@ -143,7 +149,8 @@ void DatePickerWidget::refreshField(Control control) {
 
 DatePickerWidget::Shown DatePickerWidget::shown() const {
   Shown now{model_.dateTimeValues(), {}, model_.isMixed(), model_.isEnabled()};
-  for (std::size_t i = 0; i < OrbDatePicker::kFieldCount; ++i) now.texts[i] = model_.field(static_cast<Control>(i)).text;
+  for (std::size_t i = 0; i < OrbDatePicker::kFieldCount; ++i)
+    now.texts[i] = model_.field(static_cast<Control>(i)).text;
   return now;
 }
 

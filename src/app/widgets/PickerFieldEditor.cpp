@@ -7,7 +7,7 @@
 
 PickerFieldEditor::PickerFieldEditor(PickerFieldHost& host, OrbDatePicker::Control field, int digits,
                                      QWidget* parent)
-    : QLineEdit(parent), host_(host), field_(field), digits_(digits) {
+    : QLineEdit(parent), host_(&host), field_(field), digits_(digits) {
   // The picker draws one frame around all fields; each field is bare text.
   setFrame(false);
   setAlignment(Qt::AlignCenter);
@@ -44,11 +44,12 @@ std::optional<int> PickerFieldEditor::platformKeyCode(int qtKey) {
 
 bool PickerFieldEditor::offerKey(QKeyEvent* event) {
   // Arrows with Ctrl or Alt keep their ordinary editing meaning.
+  if (!host_) return false;
   if (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
   const std::optional<int> code = platformKeyCode(event->key());
   if (!code) return false;
   const bool shift = (event->modifiers() & Qt::ShiftModifier) || event->key() == Qt::Key_Backtab;
-  return host_.fieldKey(field_, *code, shift ? OrbDatePicker::kShiftFlag : 0, !hasSelectedText());
+  return host_->fieldKey(field_, *code, shift ? OrbDatePicker::kShiftFlag : 0, !hasSelectedText());
 }
 
 bool PickerFieldEditor::event(QEvent* event) {
@@ -58,13 +59,13 @@ bool PickerFieldEditor::event(QEvent* event) {
     auto* key = static_cast<QKeyEvent*>(event);
     if ((key->key() == Qt::Key_Tab || key->key() == Qt::Key_Backtab) && offerKey(key)) return true;
   }
-  if (event->type() == QEvent::ShortcutOverride) {
+  if (event->type() == QEvent::ShortcutOverride && host_) {
     // Undo while editing is the picker's own; with nothing left to undo in
     // this field, the window's Undo takes the keys.
     auto* key = static_cast<QKeyEvent*>(event);
     const bool redo = key->matches(QKeySequence::Redo);
     if (redo || key->matches(QKeySequence::Undo)) {
-      if (host_.canUndoField(redo))
+      if (host_->canUndoField(redo))
         event->accept();
       else
         event->ignore();
@@ -75,14 +76,18 @@ bool PickerFieldEditor::event(QEvent* event) {
 }
 
 void PickerFieldEditor::keyPressEvent(QKeyEvent* event) {
+  if (!host_) {
+    QLineEdit::keyPressEvent(event);
+    return;
+  }
   const bool redo = event->matches(QKeySequence::Redo);
   if (redo || event->matches(QKeySequence::Undo)) {
     // The editor's own history knows nothing of the model's: never used.
-    if (host_.canUndoField(redo)) host_.undoField(field_, redo);
+    if (host_->canUndoField(redo)) host_->undoField(field_, redo);
     event->accept();
     return;
   }
-  if (event->matches(QKeySequence::Paste) && host_.fieldPaste(field_, QGuiApplication::clipboard()->text())) {
+  if (event->matches(QKeySequence::Paste) && host_->fieldPaste(field_, QGuiApplication::clipboard()->text())) {
     event->accept();
     return;
   }
@@ -90,7 +95,7 @@ void PickerFieldEditor::keyPressEvent(QKeyEvent* event) {
     event->accept();
     return;
   }
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) host_.fieldReturn(field_);
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) host_->fieldReturn(field_);
   QLineEdit::keyPressEvent(event);
 }
 
@@ -99,10 +104,10 @@ void PickerFieldEditor::focusInEvent(QFocusEvent* event) {
   // The whole value is selected, so typing replaces it; after the click
   // that brought the focus has placed the cursor.
   QTimer::singleShot(0, this, &QLineEdit::selectAll);
-  host_.fieldFocusIn(field_);
+  if (host_) host_->fieldFocusIn(field_);
 }
 
 void PickerFieldEditor::focusOutEvent(QFocusEvent* event) {
   QLineEdit::focusOutEvent(event);
-  host_.fieldFocusOut(field_, event->reason());
+  if (host_) host_->fieldFocusOut(field_, event->reason());
 }

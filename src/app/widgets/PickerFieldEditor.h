@@ -38,6 +38,9 @@ class PickerFieldEditor : public QLineEdit {
   PickerFieldEditor(PickerFieldHost& host, OrbDatePicker::Control field, int digits, QWidget* parent);
 
   OrbDatePicker::Control field() const { return field_; }
+  // The host is going away: from now on the editor is a plain line edit
+  // (a last focus-out may still come while the widgets are torn down).
+  void detachHost() { host_ = nullptr; }
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -54,7 +57,7 @@ class PickerFieldEditor : public QLineEdit {
   // True when the host took the key.
   bool offerKey(QKeyEvent* event);
 
-  PickerFieldHost& host_;
+  PickerFieldHost* host_;
   OrbDatePicker::Control field_;
   int digits_;
 };
