@@ -59,13 +59,20 @@ void DatePickerFieldRow::setFields(const std::array<QWidget*, kFieldCount>& fiel
   fields_ = fields;
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  // Every gap is wide enough for the widest separator and a little air.
+  for (QWidget* field : fields_)
+    if (field) layout->addWidget(field);
+  // When "Multiple Values" is the wider page (date only), the fields keep
+  // their gaps and start at the left, as text in a text box does.
+  layout->addStretch();
+  updateSpacing();
+}
+
+void DatePickerFieldRow::updateSpacing() {
+  // The fields' own side margins give the separators their air.
   const QFontMetrics metrics(font());
   int widest = 0;
   for (int i = 1; i < kFieldCount; ++i) widest = std::max(widest, metrics.horizontalAdvance(separatorBefore(i)));
-  layout->setSpacing(widest + 2);
-  for (QWidget* field : fields_)
-    if (field) layout->addWidget(field);
+  if (layout()) layout()->setSpacing(widest);
 }
 
 void DatePickerFieldRow::setDrawSeparators(bool draw) {
@@ -84,6 +91,18 @@ QString DatePickerFieldRow::separatorBefore(int field) {
   }
 }
 
+int DatePickerFieldRow::textEdge(const QWidget* field, bool right) {
+  const auto* editor = qobject_cast<const QLineEdit*>(field);
+  const QRect box = field->geometry();
+  if (!editor || editor->text().isEmpty()) return right ? box.right() + 1 : box.left();
+  const QFontMetrics metrics = editor->fontMetrics();
+  // A line edit centres its text together with room for the cursor after
+  // it, so the text sits a little left of the middle.
+  const int centre = box.center().x() - 1;
+  const int half = metrics.horizontalAdvance(editor->text()) / 2;
+  return right ? centre + half + 1 : centre - half;
+}
+
 void DatePickerFieldRow::paintEvent(QPaintEvent* /*event*/) {
   if (!drawSeparators_) return;
   QPainter painter(this);
@@ -92,7 +111,9 @@ void DatePickerFieldRow::paintEvent(QPaintEvent* /*event*/) {
     const QWidget* field = fields_[static_cast<std::size_t>(i)];
     if (!field || field->isHidden()) continue;
     if (previous) {
-      const QRect gap(previous->geometry().right() + 1, field->y(), field->x() - previous->geometry().right() - 1,
+      // Centred between the digits rather than between the editors, whose
+      // text sits in the middle of each.
+      const QRect gap(textEdge(previous, true), field->y(), textEdge(field, false) - textEdge(previous, true),
                       field->height());
       painter.setPen(field->palette().color(field->isEnabled() ? QPalette::Active : QPalette::Disabled,
                                             QPalette::Text));

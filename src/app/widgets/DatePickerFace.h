@@ -37,12 +37,16 @@ class DatePickerFieldRow : public QWidget {
   // fields[i] is the editor of field i, or null when the layout lacks it.
   void setFields(const std::array<QWidget*, kFieldCount>& fields);
   void setDrawSeparators(bool draw);
+  // Gaps wide enough for the separators in the current font.
+  void updateSpacing();
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
   static QString separatorBefore(int field);
+  // Where a field's digits end (right) or begin (left), in row coordinates.
+  static int textEdge(const QWidget* field, bool right);
 
   std::array<QWidget*, kFieldCount> fields_{};
   bool drawSeparators_ = true;

@@ -6,22 +6,27 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
-DatePickerStepper::DatePickerStepper(int height, QWidget* parent) : QWidget(parent) {
+DatePickerStepper::DatePickerStepper(QWidget* parent) : QWidget(parent) {
   setAccessibleName(tr("Stepper"));
   setFocusPolicy(Qt::TabFocus);
   auto* layout = new QVBoxLayout(this);
   // A one-pixel rim around the arrows shows the keyboard focus.
   layout->setContentsMargins(1, 1, 1, 1);
   layout->setSpacing(0);
-  const int arrows = height - 2;
-  up_ = makeArrow(Qt::UpArrow, tr("Step Up"), 1, arrows - arrows / 2);
-  down_ = makeArrow(Qt::DownArrow, tr("Step Down"), -1, arrows / 2);
+  up_ = makeArrow(Qt::UpArrow, tr("Step Up"), 1);
+  down_ = makeArrow(Qt::DownArrow, tr("Step Down"), -1);
   layout->addWidget(up_);
   layout->addWidget(down_);
+}
+
+void DatePickerStepper::setHeight(int height) {
+  const int arrows = height - 2;
+  up_->setFixedSize(arrows / 2 + 4, arrows - arrows / 2);
+  down_->setFixedSize(arrows / 2 + 4, arrows / 2);
   setFixedHeight(height);
 }
 
-QToolButton* DatePickerStepper::makeArrow(Qt::ArrowType arrow, const QString& name, int value, int height) {
+QToolButton* DatePickerStepper::makeArrow(Qt::ArrowType arrow, const QString& name, int value) {
   auto* button = new QToolButton(this);
   button->setArrowType(arrow);
   button->setAccessibleName(name);
@@ -29,7 +34,6 @@ QToolButton* DatePickerStepper::makeArrow(Qt::ArrowType arrow, const QString& na
   // The stepper as a whole takes the keyboard focus, not each arrow.
   button->setFocusPolicy(Qt::NoFocus);
   button->setAutoRepeat(true);
-  button->setFixedSize(height + 4, height);
   // pressed comes once on the press and again on every repeat while the
   // arrow is held; clicked would come only on the release.
   connect(button, &QToolButton::pressed, this, [this, value] { emit stepped(value); });

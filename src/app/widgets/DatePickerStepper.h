@@ -11,8 +11,10 @@ class DatePickerStepper : public QWidget {
   Q_OBJECT
 
  public:
-  // height: the picker's height; the two arrows share it.
-  DatePickerStepper(int height, QWidget* parent);
+  explicit DatePickerStepper(QWidget* parent);
+
+  // The picker's height; the two arrows share it.
+  void setHeight(int height);
 
   QToolButton* upButton() const { return up_; }
   QToolButton* downButton() const { return down_; }
@@ -25,7 +27,7 @@ class DatePickerStepper : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  QToolButton* makeArrow(Qt::ArrowType arrow, const QString& name, int value, int height);
+  QToolButton* makeArrow(Qt::ArrowType arrow, const QString& name, int value);
 
   QToolButton* up_ = nullptr;
   QToolButton* down_ = nullptr;

@@ -42,16 +42,16 @@ DatePickerWidget::DatePickerWidget(OrbDatePicker& model, const QString& label, Q
   installDatePickerAccessibility();
   setAccessibleName(label);
   model_.setUndoManager(undo_.get());
-  const int height = DatePickerFace::lineEditHeight(this);
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(2);
-  layout->addWidget(buildFace(height));
-  stepper_ = new DatePickerStepper(height, this);
+  layout->addWidget(buildFace());
+  stepper_ = new DatePickerStepper(this);
   connect(stepper_, &DatePickerStepper::stepped, this, &DatePickerWidget::onStepped);
   layout->addWidget(stepper_);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   setTabChain();
+  updateMetrics();
   refresh();
 }
 
@@ -65,13 +65,10 @@ DatePickerWidget::~DatePickerWidget() {
   model_.setUndoManager(nullptr);
 }
 
-QWidget* DatePickerWidget::buildFace(int height) {
+QWidget* DatePickerWidget::buildFace() {
   auto* face = new DatePickerFace(this);
   face_ = face;
-  face->setFixedHeight(height);
   auto* frame = new QHBoxLayout(face);
-  const int rim = face->frameWidth();
-  frame->setContentsMargins(rim + 2, rim, rim + 2, rim);
   // The fields and the "Multiple Values" text take turns in the same
   // place; the face keeps the size of the larger, so nothing moves.
   auto* stack = new QWidget(face);
@@ -85,6 +82,22 @@ QWidget* DatePickerWidget::buildFace(int height) {
   pages_->addWidget(mixedText_);
   frame->addWidget(stack);
   return face;
+}
+
+void DatePickerWidget::updateMetrics() {
+  // As tall as a line edit in the same font, so the picker lines up with
+  // the text boxes beside it; the font usually arrives with the parent.
+  const int height = DatePickerFace::lineEditHeight(this);
+  const int rim = face_->frameWidth();
+  face_->layout()->setContentsMargins(rim + 2, rim, rim + 2, rim);
+  face_->setFixedHeight(height);
+  stepper_->setHeight(height);
+  fieldRow_->updateSpacing();
+}
+
+void DatePickerWidget::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) updateMetrics();
 }
 
 void DatePickerWidget::buildFields() {

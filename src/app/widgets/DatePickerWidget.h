@@ -17,6 +17,7 @@
 #include "app/widgets/PickerFieldEditor.h"
 #include "datetime/OrbDatePicker.h"
 
+class DatePickerFace;
 class DatePickerFieldRow;
 class DatePickerStepper;
 class DatePickerUndoSession;
@@ -40,6 +41,9 @@ class DatePickerWidget : public QWidget, private PickerFieldHost {
   PickerFieldEditor* fieldEditor(OrbDatePicker::Control field) const;
   DatePickerStepper* stepper() const { return stepper_; }
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  signals:
   // The user changed the value through this control.
   void edited();
@@ -59,7 +63,9 @@ class DatePickerWidget : public QWidget, private PickerFieldHost {
   Shown shown() const;
   void finishEdit(const Shown& before);
 
-  QWidget* buildFace(int height);
+  QWidget* buildFace();
+  // Heights and gaps from the current font and style.
+  void updateMetrics();
   void buildFields();
   void setTabChain();
   void refreshField(Control field);
@@ -82,7 +88,7 @@ class DatePickerWidget : public QWidget, private PickerFieldHost {
   OrbDatePicker& model_;
   std::unique_ptr<DatePickerUndoSession> undo_;
   std::array<PickerFieldEditor*, OrbDatePicker::kFieldCount> fields_{};
-  QWidget* face_ = nullptr;
+  DatePickerFace* face_ = nullptr;
   QStackedLayout* pages_ = nullptr;
   DatePickerFieldRow* fieldRow_ = nullptr;
   QLabel* mixedText_ = nullptr;

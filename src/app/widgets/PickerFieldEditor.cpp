@@ -19,13 +19,14 @@ PickerFieldEditor::PickerFieldEditor(PickerFieldHost& host, OrbDatePicker::Contr
 
 QSize PickerFieldEditor::sizeHint() const {
   // Room for the widest digit in every place, plus the editor's own side
-  // margins and the cursor, so no digit is ever clipped.
+  // margins (2 each) and the cursor (1), so no digit is ever clipped or
+  // scrolled out of sight.
   const QFontMetrics metrics(font());
   int widest = 0;
   for (QChar digit = u'0'; digit <= u'9'; digit = QChar(digit.unicode() + 1))
     widest = std::max(widest, metrics.horizontalAdvance(digit));
   const QMargins margins = textMargins();
-  const int width = widest * digits_ + margins.left() + margins.right() + 6;
+  const int width = widest * digits_ + margins.left() + margins.right() + 5;
   return {width, QLineEdit::sizeHint().height()};
 }
 
