@@ -146,7 +146,7 @@ void DatePickerWidget::refresh() {
 
 void DatePickerWidget::refreshField(Control control) {
   PickerFieldEditor* editor = fieldEditor(control);
-  if (!editor) return;
+  if (!editor || typing_ == control) return;
   const OrbDatePicker::Field& field = model_.field(control);
   // While mixed the row is not on show; it keeps its layout for later.
   if (!model_.isMixed()) editor->setVisible(!field.hidden);
@@ -218,6 +218,7 @@ void DatePickerWidget::onTextChanged(Control field, const QString& text) {
   if (refreshing_) return;
   const Shown before = shown();
   PickerFieldEditor* editor = fieldEditor(field);
+  const QScopedValueRollback typing(typing_, std::optional<Control>(field));
   if (!model_.controlTextDidChange(field, text.toStdString())) {
     // A field is never left empty nor holds what the model refuses: the
     // previous text comes back, all selected, with a beep.

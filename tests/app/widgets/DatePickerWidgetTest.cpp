@@ -62,6 +62,7 @@ class DatePickerWidgetTest : public QObject {
  private slots:
   void typingGoesToTheModel_data();
   void typingGoesToTheModel();
+  void typingSurvivesTheOwnerResettingTheValue();
   void keysStepAndMove_data();
   void keysStepAndMove();
   void stepperStepsTheFocusedField();
@@ -106,6 +107,25 @@ void DatePickerWidgetTest::typingGoesToTheModel() {
   QCOMPARE(p.recorder.ended, 1);
   p.widget->stepper()->setFocus();
   QTRY_COMPARE(p.field(field)->text(), shownAfter);
+}
+
+void DatePickerWidgetTest::typingSurvivesTheOwnerResettingTheValue() {
+  // An owner that answers each change by setting the picker again, as a
+  // document does: month "0" rolls the date back to December meanwhile.
+  struct Resetter : OrbDatePicker::Delegate {
+    DatePickerWidget* widget = nullptr;
+    void datePickerValueDidChange(OrbDatePicker& picker) override {
+      picker.setDateValue(picker.dateValue());
+      widget->refresh();
+    }
+  } resetter;
+  Picker p;
+  resetter.widget = p.widget.get();
+  p.model.setDelegate(&resetter);
+  QVERIFY(p.focus(Control::monthField));
+  QTest::keyClicks(p.field(Control::monthField), "01");
+  QCOMPARE(p.field(Control::monthField)->text(), QStringLiteral("01"));
+  QCOMPARE(p.model.month(), 1L);
 }
 
 void DatePickerWidgetTest::keysStepAndMove_data() {
