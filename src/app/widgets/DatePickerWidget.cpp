@@ -155,9 +155,10 @@ void DatePickerWidget::refreshField(Control control) {
   // long as it means the model's value, so the next digit goes after it.
   bool typedOk = false;
   const long typed = editor->text().toLong(&typedOk);
-  if (editor->hasFocus() && typedOk && !field.text.empty() && typed == field.integerValue()) return;
+  const bool keepTyped = editor->hasFocus() && typedOk && !field.text.empty() && typed == field.integerValue();
   const QString text = padded(field.text, field.integerDigits);
-  if (editor->text() != text) editor->setText(text);
+  if (!keepTyped && editor->text() != text) editor->setText(text);
+  lastText_[indexOf(control)] = editor->text();
 }
 
 DatePickerWidget::Shown DatePickerWidget::shown() const {
@@ -224,15 +225,14 @@ void DatePickerWidget::onTextChanged(Control field, const QString& text) {
     // previous text comes back, all selected, with a beep.
     {
       const QScopedValueRollback guard(refreshing_, true);
-      const std::string& previous = model_.field(field).text;
-      editor->setText(editor->hasFocus() ? QString::fromStdString(previous)
-                                         : padded(previous, model_.field(field).integerDigits));
+      editor->setText(lastText_[indexOf(field)]);
     }
     editor->selectAll();
     QApplication::beep();
     emit textRefused();
     return;
   }
+  lastText_[indexOf(field)] = text;
   if (editor->hasFocus()) editing_ = field;
   // The model may have lowered the day after a month or year change.
   refresh();

@@ -96,6 +96,9 @@ class DatePickerWidget : public QWidget, private PickerFieldHost {
   // The field changed by the user since it took the focus: its editing
   // ends (in the model's sense) when it loses the focus.
   std::optional<Control> editing_;
+  // Each field's last text that the model took or showed: what comes back
+  // when typing is refused.
+  std::array<QString, OrbDatePicker::kFieldCount> lastText_;
   // The field whose keystroke is being handled: whatever the owner makes
   // of the value meanwhile, the field keeps what was typed until the user
   // leaves it ("0" on the way to "01" may roll the date over).

@@ -123,7 +123,11 @@ void DatePickerWidgetTest::typingSurvivesTheOwnerResettingTheValue() {
   resetter.widget = p.widget.get();
   p.model.setDelegate(&resetter);
   QVERIFY(p.focus(Control::monthField));
-  QTest::keyClicks(p.field(Control::monthField), "01");
+  QTest::keyClicks(p.field(Control::monthField), "0x");  // "x" is refused
+  QCOMPARE(p.field(Control::monthField)->text(), QStringLiteral("0"));
+  QCOMPARE(p.field(Control::monthField)->selectedText(), QStringLiteral("0"));
+  QTest::keyClick(p.field(Control::monthField), Qt::Key_End);
+  QTest::keyClicks(p.field(Control::monthField), "1");
   QCOMPARE(p.field(Control::monthField)->text(), QStringLiteral("01"));
   QCOMPARE(p.model.month(), 1L);
 }
