@@ -37,6 +37,15 @@ QString padded(const std::string& text, int digits) {
 
 }  // namespace
 
+bool DatePickerWidget::inStyle(Control field) const {
+  switch (model_.style()) {
+    case OrbDatePicker::kStyleMilliseconds: return true;
+    case OrbDatePicker::kStyleDateOnly:
+      return field == Control::yearField || field == Control::monthField || field == Control::dayField;
+    default: return field != Control::subSecondField;
+  }
+}
+
 DatePickerWidget::DatePickerWidget(OrbDatePicker& model, const QString& label, QWidget* parent)
     : QWidget(parent), model_(model), undo_(std::make_unique<DatePickerUndoSession>()) {
   installDatePickerAccessibility();
@@ -148,8 +157,9 @@ void DatePickerWidget::refreshField(Control control) {
   PickerFieldEditor* editor = fieldEditor(control);
   if (!editor || typing_ == control) return;
   const OrbDatePicker::Field& field = model_.field(control);
-  // While mixed the row is not on show; it keeps its layout for later.
-  if (!model_.isMixed()) editor->setVisible(!field.hidden);
+  // While mixed the row is not on show, but it keeps the layout of the
+  // picker's style, so the control keeps its width when a value comes.
+  editor->setVisible(model_.isMixed() ? inStyle(control) : !field.hidden);
   editor->setEnabled(field.enabled);
   // The field being typed in keeps the text as typed ("1", not "01") as
   // long as it means the model's value, so the next digit goes after it.

@@ -69,6 +69,9 @@ class DatePickerWidget : public QWidget, private PickerFieldHost {
   void buildFields();
   void setTabChain();
   void refreshField(Control field);
+  // The field belongs to the layout of the model's style (seconds: no
+  // milliseconds; date only: no time).
+  bool inStyle(Control field) const;
   void onTextChanged(Control field, const QString& text);
   void onStepped(int value);
   // The model's focus from Qt's, and Qt's from the model's.

@@ -269,6 +269,12 @@ void DatePickerWidgetTest::stepperOnMixedPickerSetsNow() {
   QCOMPARE(edited.count(), 1);
   QVERIFY(p.field(Control::yearField)->isVisible());
   QCOMPARE(p.field(Control::yearField)->text(), QStringLiteral("2021"));
+  // "Multiple Values" takes the room of the style's fields, so nothing
+  // around the picker moves when a value comes.
+  OrbDatePicker seconds, mixed;
+  seconds.setDateValue(Instant{});
+  mixed.setMixed(true);
+  QCOMPARE(DatePickerWidget(mixed, "M").sizeHint(), DatePickerWidget(seconds, "S").sizeHint());
   // A picker without a date has no stepper to click.
   p.model.setDateValue(std::nullopt);
   p.widget->refresh();
