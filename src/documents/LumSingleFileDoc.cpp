@@ -1,5 +1,7 @@
 #include "documents/LumSingleFileDoc.h"
 
+#include <cstdio>
+
 #include "datetime/DateAdditions.h"
 #include "datetime/TimeZone.h"
 #include "documents/DateTextRules.h"
@@ -103,6 +105,21 @@ void LumSingleFileDoc::datePickerValueDidChange(OrbDatePicker& changed) {
     else
       newDates[t.index] = value;
     changeDateTimeOriginal(newDates, current_);
+    return;
+  }
+}
+
+void LumSingleFileDoc::pasteWithDateTimeString(const std::string& text) {
+  OrbDatePicker::DateTimeValues v;
+  char separator = 0;
+  if (std::sscanf(text.c_str(), "%ld-%ld-%ld%c%ld:%ld:%ld.%ld", &v.year, &v.month, &v.day, &separator, &v.hour,
+                  &v.minute, &v.second, &v.subSecond) != 8 || separator != 'T')
+    return;
+  for (const DateTargets::Target& t : DateTargets::kTargets) {
+    OrbDatePicker& p = picker(t.index);
+    if (!p.focused() || !p.isEnabled()) continue;
+    p.setValuesWithDateTimeValues(v, false);
+    datePickerValueDidChange(p);
     return;
   }
 }

@@ -96,6 +96,10 @@ class LumSingleFileDoc : public QObject, public LumImageFileOwner, private OrbDa
   // --- Changes ------------------------------------------------------------------
   // A picker's value changed (the pickers report here themselves).
   void datePickerValueDidChange(OrbDatePicker& picker) override;
+  // A date and time pasted into a field of the picker that has the focus,
+  // as "2019-03-07T09:05:30.250": that picker takes it (and, when linked,
+  // the others), as one change that can be undone.
+  void pasteWithDateTimeString(const std::string& text) override;
   // Puts the new values in place and records the exchange for undo; nothing
   // happens when every date's old value is none or equal to its new one.
   void changeDateTimeOriginal(const Dates& newDates, const Dates& oldDates);

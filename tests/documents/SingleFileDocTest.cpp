@@ -71,6 +71,21 @@ TEST_F(SingleDocFixture, LinkedChangeUndoAndRestore) {
 // What is on disk after an edit and a save, against a photo built with the
 // expected dates: only the dates the user changed differ, and a date left
 // alone keeps its bytes whatever its picker makes of them.
+TEST_F(SingleDocFixture, PasteSetsTheFocusedPickerAsOneChange) {
+  open({kO, kD, kE});
+  OrbDatePicker::Delegate& delegate = *doc.picker(Digitized).delegate();
+  delegate.pasteWithDateTimeString("2019-03-07T09:05:30.250");  // no picker has the focus
+  EXPECT_EQ(current(), (Three{kO, kD, kE}));
+  doc.picker(Digitized).setFocused(Ctl::hourField);
+  delegate.pasteWithDateTimeString("2019:03:07 09:05:30");  // not the pasted form: ignored
+  EXPECT_EQ(current(), (Three{kO, kD, kE}));
+  delegate.pasteWithDateTimeString("2019-03-07T09:05:30.250");
+  EXPECT_EQ(current(), (Three{kO, "2019:03:07 09:05:30", kE}));
+  EXPECT_EQ(doc.picker(Digitized).subSecond(), 250);
+  doc.undoStack().undo();
+  EXPECT_EQ(current(), (Three{kO, kD, kE}));
+}
+
 TEST_F(SingleDocFixture, SaveWritesOnlyTheChangedDates) {
   using Edit = std::function<void(SingleDocFixture&)>;
   const auto typeYear = [](DateTargets::Index which, const char* year) -> Edit {
