@@ -3,12 +3,15 @@
 // through the document controller as the program does; alerts come from
 // the program's own dialogs and are pictured the moment they show.
 #include <QAbstractButton>
-#include <QComboBox>
-#include <QSpinBox>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QSettings>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -29,6 +32,8 @@
 #include "app/sheets/SavingSheet.h"
 #include "app/single/PhotoView.h"
 #include "app/single/SingleFileWindow.h"
+#include "app/widgets/DatePickerWidget.h"
+#include "datetime/OrbDatePicker.h"
 #include "documents/LumMultiFileDoc.h"
 
 namespace fs = std::filesystem;
@@ -36,7 +41,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kWaitMs = 20000;
-constexpr int kPictures = 11;
+constexpr int kPictures = 12;
 
 // The program's dialogs, except that a handed-over folder opens in one
 // window without asking.
@@ -168,6 +173,21 @@ void shootSingleWindow(DocumentController& controller, Screenshots::Session& ses
   sheet.reject();
 }
 
+// A picker showing "Multiple Values" beside a text field of the same row,
+// which it should match in height.
+void shootMixedPicker(Screenshots::Session& session) {
+  OrbDatePicker model;
+  model.setDateValue(Instant::now());
+  model.setMixed(true);
+  QWidget row;
+  auto* layout = new QHBoxLayout(&row);
+  layout->addWidget(new QLabel(QStringLiteral("Date Time Original:"), &row));
+  layout->addWidget(new DatePickerWidget(model, QStringLiteral("Date Time Original"), &row));
+  layout->addWidget(new QLineEdit(QStringLiteral("text field"), &row));
+  row.show();
+  session.shoot(QStringLiteral("picker-mixed"), row);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -212,6 +232,7 @@ int main(int argc, char** argv) {
   shootSaveFailure(stage);
   shootCloseSheet(stage);
   shootSingleWindow(controller, session, photos / "only-original.jpg");
+  shootMixedPicker(session);
   std::printf("%d pictures in %s\n", session.written(), qPrintable(args[2]));
   for (DocumentWindow* w : controller.windows()) delete w;
   return session.written() == kPictures ? 0 : 1;
