@@ -23,6 +23,7 @@ void buildMenuBar(QMainWindow& window, AppActions& app, const WindowMenuActions&
   file->addSeparator();
   addActions(file, {own.close, own.save});
   if (own.saveAll) file->addAction(own.saveAll);
+  if (own.revert) file->addAction(own.revert);
   file->addSeparator();
   file->addAction(app.quit);
 

@@ -2,7 +2,7 @@
 // Builds a document window's menu bar: the application's commands
 // (AppActions) with the window's own in their usual places.
 //
-// File: Open..., Open Recent, Close, Save, Save All, Quit.
+// File: Open..., Open Recent, Close, Save, Save All, Revert to Saved, Quit.
 // Edit: Undo, Redo, Select All, then the window's edit commands.
 // View: List Size (Small, Medium, Large), Show Information, Image Viewer.
 // Tools: Day Count Calculator. Help: About Lumidate.
@@ -17,6 +17,7 @@ struct WindowMenuActions {
   QAction* close = nullptr;
   QAction* save = nullptr;
   QAction* saveAll = nullptr;  // may be null (single-file windows)
+  QAction* revert = nullptr;   // may be null (multi-file windows)
   QAction* selectAll = nullptr;
   QList<QAction*> edit;  // after Select All; a null entry is a separator
 };

@@ -131,7 +131,7 @@ void SingleFileWindow::buildActions() {
   connect(link, &QAction::toggled, link_, &QPushButton::setChecked);
   connect(link_, &QPushButton::toggled, link, &QAction::setChecked);
   addActions({close, save_, revert_, interval, link});
-  buildMenuBar(*this, context().actions, WindowMenuActions{close, save_, nullptr, nullptr, {revert_, nullptr, link, interval}});
+  buildMenuBar(*this, context().actions, WindowMenuActions{close, save_, nullptr, revert_, nullptr, {link, interval}});
 }
 
 void SingleFileWindow::showIntervalSheet() {
