@@ -7,19 +7,14 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QSpinBox>
-#include <QSettings>
-#include <QTemporaryDir>
 #include <QTest>
-#include <QUndoGroup>
 
 #include <memory>
 
-#include "app/AppActions.h"
-#include "app/AppContext.h"
-#include "app/preferences/Settings.h"
 #include "app/sheets/ChangeByIntervalSheet.h"
 #include "app/single/PhotoView.h"
 #include "app/single/SingleFileWindow.h"
+#include "app/support/AppFixture.h"
 #include "app/support/FakePrompts.h"
 #include "datetime/DateAdditions.h"
 #include "documents/LumNotificationCenter.h"
@@ -34,15 +29,7 @@ namespace {
 constexpr const char* kA = "2020:01:31 10:00:00";
 constexpr const char* kB = "2019:06:01 08:30:00";
 
-struct Shell {
-  QTemporaryDir settingsDir;
-  QSettings store{settingsDir.filePath("settings.ini"), QSettings::IniFormat};
-  Settings settings{store};
-  FakePrompts prompts;
-  QUndoGroup undoGroup;
-  AppActions actions{undoGroup};
-  AppContext context{settings, prompts, actions};
-  doctest_support::TempFolder folder;
+struct Shell : AppFixture {
 
   // A window over a new photo with these dates, shown.
   std::unique_ptr<SingleFileWindow> open(const PhotoDates& dates) {
