@@ -149,17 +149,24 @@ void shootCloseSheet(Stage& s) {
   }
 }
 
+// The first window of kind W once the opening is over; null if none came.
+template <typename W>
+W* openedWindow(const DocumentController& controller, const char* what) {
+  W* window = nullptr;
+  waitFor([&] {
+    for (DocumentWindow* w : controller.windows())
+      if ((window = qobject_cast<W*>(w))) return !controller.isDocumentOpening();
+    return false;
+  }, what);
+  return window;
+}
+
 // One photo without DateTimeDigitized in a window of its own (its picker
 // disabled), then its interval sheet shifting a date out of range.
 void shootSingleWindow(DocumentController& controller, Screenshots::Session& session, const fs::path& photo) {
   for (DocumentWindow* w : controller.windows()) delete w;
   controller.openFiles({photo}, false);
-  SingleFileWindow* window = nullptr;
-  waitFor([&] {
-    for (DocumentWindow* w : controller.windows())
-      if ((window = qobject_cast<SingleFileWindow*>(w))) return !controller.isDocumentOpening();
-    return false;
-  }, "the single-file window");
+  auto* window = openedWindow<SingleFileWindow>(controller, "the single-file window");
   if (!window) return;
   waitFor([&] { return window->photo().hasImage(); }, "the photo");
   session.shoot(QStringLiteral("single-window"), *window);
@@ -215,12 +222,7 @@ int main(int argc, char** argv) {
   // The unreadable sample is reported once the others are read.
   whenModalShows([&](QWidget& alert) { session.shoot(QStringLiteral("open-failure-alert"), alert); });
   controller.openFiles({photos}, true);
-  MultiFileWindow* window = nullptr;
-  waitFor([&] {
-    for (DocumentWindow* w : controller.windows())
-      if ((window = qobject_cast<MultiFileWindow*>(w))) return !controller.isDocumentOpening();
-    return false;
-  }, "the multi-file window");
+  auto* window = openedWindow<MultiFileWindow>(controller, "the multi-file window");
   if (!window) return 1;
   window->resize(1000, 640);
 

@@ -101,6 +101,17 @@ class App:
             self.process.wait()
 
 
+def start_private(argv, work):
+    """Starts argv as an App with a home and runtime folder of its own under
+    work: fresh settings, and no other running lumidate takes the files over."""
+    home = os.path.join(work, "home")
+    runtime = os.path.join(work, "runtime")
+    os.makedirs(home)
+    os.makedirs(runtime, mode=0o700)
+    return App(argv, env={"HOME": home, "XDG_CONFIG_HOME": os.path.join(home, ".config"),
+                          "XDG_RUNTIME_DIR": runtime})
+
+
 def role_name(role):
     return str(role).split("ROLE_")[-1].lower().replace("_", " ")
 

@@ -92,14 +92,7 @@ def main(lumidate, cli, source):
         if len(names) != 3:
             raise d.DriverError(f"{source} should hold three JPEG photos, it holds {names}")
         before = {n: open(os.path.join(folder, n), "rb").read() for n in names}
-        home = os.path.join(work, "home")
-        runtime = os.path.join(work, "runtime")
-        os.makedirs(home)
-        os.makedirs(runtime, mode=0o700)
-        # A private home and runtime folder: fresh settings, and no other
-        # running lumidate takes the files over.
-        app = d.App([lumidate, folder], env={"HOME": home, "XDG_CONFIG_HOME": os.path.join(home, ".config"),
-                                              "XDG_RUNTIME_DIR": runtime})
+        app = d.start_private([lumidate, folder], work)
         try:
             drive(app)
         finally:

@@ -66,12 +66,7 @@ def main(lumidate, source):
         before = open(photo, "rb").read()
         at = exif_dates.date_positions(before)[exif_dates.TAG_ORIGINAL] + HOUR_AT
         hour = "%02d" % ((int(before[at:at + 2]) + 5) % 24)
-        home = os.path.join(work, "home")
-        runtime = os.path.join(work, "runtime")
-        os.makedirs(home)
-        os.makedirs(runtime, mode=0o700)
-        app = d.App([lumidate, photo], env={"HOME": home, "XDG_CONFIG_HOME": os.path.join(home, ".config"),
-                                             "XDG_RUNTIME_DIR": runtime})
+        app = d.start_private([lumidate, photo], work)
         try:
             drive(app, hour)
         finally:
