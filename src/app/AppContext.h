@@ -4,9 +4,13 @@
 class AppActions;
 class Prompts;
 class Settings;
+class ToolWindows;
 
 struct AppContext {
   Settings& settings;
   Prompts& prompts;
   AppActions& actions;
+  // The inspector, image viewer and calculator; null where a test makes
+  // document windows without them.
+  ToolWindows* tools = nullptr;
 };

@@ -55,6 +55,8 @@ class DocumentController : public QObject {
 
   // The open windows, in the order they were opened.
   std::vector<DocumentWindow*> windows() const;
+  // The document window activated last (the tool windows follow it), or null.
+  DocumentWindow* frontWindow() const { return front_.data(); }
   bool hasEditedDocuments() const;
 
   // Asks each window with edited files, from the last opened to the first;
@@ -71,6 +73,8 @@ class DocumentController : public QObject {
   // The files of an opening are being read (the progress window is up for two or more).
   void loadingStarted(std::size_t count);
   void quitReviewFinished(bool quit);
+  // A document window closes (its files are about to go away).
+  void windowClosing(DocumentWindow* window);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -98,6 +102,7 @@ class DocumentController : public QObject {
   std::unique_ptr<LoadProgressWindow> progress_;
   OpenPlan::Split split_;
   std::vector<QPointer<DocumentWindow>> windows_;
+  QPointer<DocumentWindow> front_;
   std::vector<QPointer<DocumentWindow>> toReview_;  // the quit review's windows left, next last
   bool quitting_ = false;
 };

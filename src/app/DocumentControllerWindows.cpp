@@ -48,15 +48,20 @@ void DocumentController::addWindow(DocumentWindow* window) {
   windows_.emplace_back(window);
   undoGroup_.addStack(&window->undoStack());
   undoGroup_.setActiveStack(&window->undoStack());
+  front_ = window;
   window->setAcceptDrops(true);
   window->installEventFilter(this);
-  connect(window, &DocumentWindow::windowClosing, this, [this](DocumentWindow* w) { forgetWindow(w); });
+  connect(window, &DocumentWindow::windowClosing, this, [this](DocumentWindow* w) {
+    emit windowClosing(w);
+    forgetWindow(w);
+  });
   window->show();
 }
 
 // Called while the window still lives (its close was accepted); a window
 // deleted otherwise leaves a null pointer that windows() skips.
 void DocumentController::forgetWindow(QObject* window) {
+  if (front_.data() == window) front_ = nullptr;
   std::erase_if(windows_, [window](const QPointer<DocumentWindow>& w) { return !w || w.data() == window; });
 }
 
@@ -85,6 +90,7 @@ bool DocumentController::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::WindowActivate:
       undoGroup_.setActiveStack(&window->undoStack());
+      front_ = window;
       return false;
     case QEvent::DragEnter:
     case QEvent::DragMove: {

@@ -18,6 +18,7 @@
 
 #include "app/AppContext.h"
 
+class LumImageFile;
 class QMessageBox;
 class QUndoStack;
 
@@ -33,6 +34,9 @@ class DocumentWindow : public QMainWindow {
   virtual std::size_t editedFileCount() const = 0;
   bool hasEditedFile() const { return editedFileCount() > 0; }
   virtual QUndoStack& undoStack() = 0;
+  // The file the inspector and the image viewer follow: the selected file
+  // (a multi-file window: the one selected row), or null.
+  virtual const LumImageFile* selectedImageFile() const = 0;
 
   // Brings the window to the front and, when it has edited files, shows the
   // close sheet. quitting: the answer goes on with the quit review.

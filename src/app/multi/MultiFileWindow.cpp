@@ -232,6 +232,8 @@ std::size_t MultiFileWindow::editedFileCount() const { return document_->editedF
 
 QUndoStack& MultiFileWindow::undoStack() { return document_->undoStack(); }
 
+const LumImageFile* MultiFileWindow::selectedImageFile() const { return document_->selectedImageFile(); }
+
 std::optional<DocumentWindow::CloseTexts> MultiFileWindow::closeAlertTexts() const {
   return closeTextsFrom(document_->getTitleForAlertWhenCloseDociment());
 }

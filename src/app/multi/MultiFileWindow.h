@@ -37,6 +37,7 @@ class MultiFileWindow : public DocumentWindow {
   std::vector<std::filesystem::path> openFiles() const override;
   std::size_t editedFileCount() const override;
   QUndoStack& undoStack() override;
+  const LumImageFile* selectedImageFile() const override;
 
  protected:
   std::optional<CloseTexts> closeAlertTexts() const override;

@@ -189,3 +189,5 @@ void SingleFileWindow::windowClosing() {
     if (top != this && top->isVisible() && qobject_cast<DocumentWindow*>(top)) onlyDocument = false;
   document_->windowWillClose(isActiveWindow(), onlyDocument);
 }
+
+const LumImageFile* SingleFileWindow::selectedImageFile() const { return document_->selectedImageFile(); }

@@ -33,6 +33,7 @@ class SingleFileWindow : public DocumentWindow {
   std::vector<std::filesystem::path> openFiles() const override;
   std::size_t editedFileCount() const override { return document_->editedFileCount(); }
   QUndoStack& undoStack() override { return document_->undoStack(); }
+  const LumImageFile* selectedImageFile() const override;
 
  protected:
   std::optional<CloseTexts> closeAlertTexts() const override;

@@ -10,7 +10,9 @@
 
 #include "app/AppActions.h"
 #include "app/AppContext.h"
+#include "app/ToolWindows.h"
 #include "app/DocumentController.h"
+#include "app/DocumentWindow.h"
 #include "app/preferences/Settings.h"
 #include "app/startup/SingleInstance.h"
 #include "app/startup/Translations.h"
@@ -68,8 +70,9 @@ void AppStartup::setApplicationIdentity() {
 AppStartup::AppStartup(Arguments arguments, QObject* parent) : QObject(parent), arguments_(std::move(arguments)) {}
 
 AppStartup::~AppStartup() {
-  // Windows first: they refer to the context.
+  // Windows first: they refer to the context and the tool windows.
   controller_.reset();
+  tools_.reset();
 }
 
 bool AppStartup::start() {
@@ -103,6 +106,9 @@ void AppStartup::makeDocumentController() {
   actions_ = std::make_unique<AppActions>(undoGroup_);
   context_ = std::make_unique<AppContext>(AppContext{*settings_, prompts_, *actions_});
   controller_ = std::make_unique<DocumentController>(*context_, undoGroup_);
+  tools_ = std::make_unique<ToolWindows>(*context_, [this] { return controller_->frontWindow(); });
+  context_->tools = tools_.get();
+  connect(controller_.get(), &DocumentController::windowClosing, tools_.get(), &ToolWindows::documentWindowClosing);
   connect(controller_.get(), &DocumentController::quitReviewFinished, this, [](bool quit) {
     if (quit) QCoreApplication::quit();
   });

@@ -20,6 +20,7 @@ class QSettings;
 class Settings;
 class SingleInstance;
 struct AppContext;
+class ToolWindows;
 
 class AppStartup : public QObject {
   Q_OBJECT
@@ -56,6 +57,7 @@ class AppStartup : public QObject {
   std::unique_ptr<AppActions> actions_;
   DialogPrompts prompts_;
   std::unique_ptr<AppContext> context_;
+  std::unique_ptr<ToolWindows> tools_;
   std::unique_ptr<DocumentController> controller_;
   std::unique_ptr<SingleInstance> instance_;
   OpenQueue queue_;

@@ -1,0 +1,65 @@
+#include "app/ToolWindows.h"
+
+#include <QAction>
+
+#include "app/AppActions.h"
+#include "app/AppContext.h"
+#include "app/DocumentWindow.h"
+#include "app/calculator/DayCalculatorWindow.h"
+#include "app/inspector/InfoWindow.h"
+#include "app/viewer/ImageWindow.h"
+
+ToolWindows::ToolWindows(AppContext& context, FrontWindow frontWindow, QObject* parent)
+    : QObject(parent), context_(context), frontWindow_(std::move(frontWindow)) {
+  AppActions& actions = context_.actions;
+  connect(actions.showInformation, &QAction::triggered, this, &ToolWindows::toggleInspector);
+  connect(actions.showImageView, &QAction::triggered, this, &ToolWindows::showImageWindow);
+  connect(actions.dayCalculator, &QAction::triggered, this, &ToolWindows::showDayCalculator);
+}
+
+ToolWindows::~ToolWindows() = default;
+
+const LumImageFile* ToolWindows::currentImageFile() const {
+  const DocumentWindow* front = frontWindow_ ? frontWindow_() : nullptr;
+  return front ? front->selectedImageFile() : nullptr;
+}
+
+void ToolWindows::documentWindowClosing(DocumentWindow* window) {
+  (void)window;
+}
+
+// --- Inspector -------------------------------------------------------------------
+
+InfoWindow& ToolWindows::inspector() {
+  if (!inspector_) inspector_ = std::make_unique<InfoWindow>();
+  return *inspector_;
+}
+
+bool ToolWindows::isInspectorVisible() const { return inspector_ && inspector_->isVisible(); }
+
+void ToolWindows::toggleInspector() { inspector().setVisible(!isInspectorVisible()); }
+
+// --- Image viewer ----------------------------------------------------------------
+
+ImageWindow& ToolWindows::imageWindow() {
+  if (!imageWindow_) imageWindow_ = std::make_unique<ImageWindow>();
+  return *imageWindow_;
+}
+
+bool ToolWindows::isImageWindowVisible() const { return imageWindow_ && imageWindow_->isVisible(); }
+
+void ToolWindows::showImageWindow() { imageWindow().show(); }
+
+// --- Day count calculator -----------------------------------------------------------
+
+DayCalculatorWindow& ToolWindows::dayCalculator() {
+  if (!calculator_) calculator_ = std::make_unique<DayCalculatorWindow>();
+  return *calculator_;
+}
+
+void ToolWindows::showDayCalculator() {
+  DayCalculatorWindow& window = dayCalculator();
+  window.show();
+  window.raise();
+  window.activateWindow();
+}

@@ -1,0 +1,5 @@
+#include "app/inspector/InfoWindow.h"
+
+InfoWindow::InfoWindow(QWidget* parent) : QWidget(parent, Qt::Window) {}
+
+InfoWindow::~InfoWindow() = default;
