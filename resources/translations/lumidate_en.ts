@@ -224,6 +224,10 @@
         <translation>OK</translation>
     </message>
     <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
         <source>Hide Information</source>
         <translation>Hide Information</translation>
     </message>

@@ -37,6 +37,9 @@ class DocumentWindow : public QMainWindow {
   // The file the inspector and the image viewer follow: the selected file
   // (a multi-file window: the one selected row), or null.
   virtual const LumImageFile* selectedImageFile() const = 0;
+  // The document object the window's notifications name (compared by
+  // identity), or null.
+  virtual const void* documentObject() const { return nullptr; }
 
   // Brings the window to the front and, when it has edited files, shows the
   // close sheet. quitting: the answer goes on with the quit review.

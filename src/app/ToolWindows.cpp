@@ -1,6 +1,7 @@
 #include "app/ToolWindows.h"
 
 #include <QAction>
+#include <QApplication>
 
 #include "app/AppActions.h"
 #include "app/AppContext.h"
@@ -8,6 +9,8 @@
 #include "app/calculator/DayCalculatorWindow.h"
 #include "app/inspector/InfoWindow.h"
 #include "app/viewer/ImageWindow.h"
+#include "documents/LumLocalized.h"
+#include "documents/LumNotificationCenter.h"
 
 ToolWindows::ToolWindows(AppContext& context, FrontWindow frontWindow, QObject* parent)
     : QObject(parent), context_(context), frontWindow_(std::move(frontWindow)) {
@@ -15,6 +18,7 @@ ToolWindows::ToolWindows(AppContext& context, FrontWindow frontWindow, QObject* 
   connect(actions.showInformation, &QAction::triggered, this, &ToolWindows::toggleInspector);
   connect(actions.showImageView, &QAction::triggered, this, &ToolWindows::showImageWindow);
   connect(actions.dayCalculator, &QAction::triggered, this, &ToolWindows::showDayCalculator);
+  updateInformationTitle();
 }
 
 ToolWindows::~ToolWindows() = default;
@@ -25,19 +29,50 @@ const LumImageFile* ToolWindows::currentImageFile() const {
 }
 
 void ToolWindows::documentWindowClosing(DocumentWindow* window) {
-  (void)window;
+  if (inspector_ && window) inspector_->letGoOf(window->openFiles(), window->selectedImageFile());
 }
 
 // --- Inspector -------------------------------------------------------------------
 
+namespace {
+
+// The selected file of the document window whose document is `document`.
+const LumImageFile* selectedFileOfDocument(const void* document) {
+  for (QWidget* top : QApplication::topLevelWidgets())
+    if (auto* window = qobject_cast<DocumentWindow*>(top); window && window->documentObject() == document)
+      return window->selectedImageFile();
+  return nullptr;
+}
+
+}  // namespace
+
 InfoWindow& ToolWindows::inspector() {
-  if (!inspector_) inspector_ = std::make_unique<InfoWindow>();
+  if (!inspector_) {
+    inspector_ = std::make_unique<InfoWindow>(&context_.settings, selectedFileOfDocument);
+    connect(inspector_.get(), &InfoWindow::visibilityChanged, this, &ToolWindows::updateInformationTitle);
+  }
   return *inspector_;
 }
 
 bool ToolWindows::isInspectorVisible() const { return inspector_ && inspector_->isVisible(); }
 
-void ToolWindows::toggleInspector() { inspector().setVisible(!isInspectorVisible()); }
+void ToolWindows::toggleInspector() {
+  InfoWindow& window = inspector();
+  LumNotificationCenter& center = LumNotificationCenter::defaultCenter();
+  if (window.isVisible()) {
+    window.hide();
+    center.post(kLumImageFileDidChangeNotification, nullptr);
+    return;
+  }
+  center.post(kLumImageFileDidChangeNotification, currentImageFile());
+  window.show();
+  window.raise();
+}
+
+void ToolWindows::updateInformationTitle() {
+  context_.actions.showInformation->setText(
+      LumLocalized::text(isInspectorVisible() ? "Hide Information" : "Show Information"));
+}
 
 // --- Image viewer ----------------------------------------------------------------
 

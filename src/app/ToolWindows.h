@@ -37,6 +37,8 @@ class ToolWindows : public QObject {
   bool isInspectorVisible() const;
   // Window > Show Information / Hide Information.
   void toggleInspector();
+  // The menu item reads "Hide Information" while the inspector is shown.
+  void updateInformationTitle();
 
   // --- Image viewer
   ImageWindow& imageWindow();

@@ -38,6 +38,7 @@ class MultiFileWindow : public DocumentWindow {
   std::size_t editedFileCount() const override;
   QUndoStack& undoStack() override;
   const LumImageFile* selectedImageFile() const override;
+  const void* documentObject() const override { return document_.get(); }
 
  protected:
   std::optional<CloseTexts> closeAlertTexts() const override;

@@ -34,6 +34,7 @@ class SingleFileWindow : public DocumentWindow {
   std::size_t editedFileCount() const override { return document_->editedFileCount(); }
   QUndoStack& undoStack() override { return document_->undoStack(); }
   const LumImageFile* selectedImageFile() const override;
+  const void* documentObject() const override { return document_.get(); }
 
  protected:
   std::optional<CloseTexts> closeAlertTexts() const override;

@@ -1,0 +1,39 @@
+#include "app/inspector/InfoFollower.h"
+
+#include <algorithm>
+
+#include "documents/LumNotificationCenter.h"
+#include "formats/LumImageFile.h"
+
+InfoFollower::InfoFollower(DocumentFile documentFile) : documentFile_(std::move(documentFile)) {}
+
+bool InfoFollower::notified(const QString& name, const void* object) {
+  if (name == QLatin1String(kLumDocumentDidChangeNotification))
+    return show(object && documentFile_ ? documentFile_(object) : nullptr);
+  if (name == QLatin1String(kLumImageFileDidChangeNotification))
+    return show(static_cast<const LumImageFile*>(object));
+  if (name == QLatin1String(kLumImageFileDidSaveNotification))
+    return saved(static_cast<const LumImageFile*>(object));
+  return false;
+}
+
+bool InfoFollower::show(const LumImageFile* file) {
+  if (!source_.imageFileDidChange(file)) return false;
+  shownPath_ = file ? file->fileURL() : std::nullopt;
+  return true;
+}
+
+bool InfoFollower::saved(const LumImageFile* file) {
+  if (!file) return false;
+  if (file == shownFile()) return source_.imageFileDidSave(file);
+  // The save replaced the shown file's object by the file read again.
+  if (shownPath_ && file->fileURL() == shownPath_) return show(file);
+  return false;
+}
+
+bool InfoFollower::letGoOf(const std::vector<std::filesystem::path>& files, const LumImageFile* selected) {
+  if (!shownFile()) return false;
+  const bool ours = (selected && selected == shownFile()) ||
+                    (shownPath_ && std::find(files.begin(), files.end(), *shownPath_) != files.end());
+  return ours && show(nullptr);
+}

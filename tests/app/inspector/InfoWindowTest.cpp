@@ -1,0 +1,246 @@
+// The inspector window over real photo files: following documents, files
+// and saves, the Show/Hide Information toggle, Copy, heading colours, and a
+// closing document window taking its file out of the inspector.
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QItemSelectionModel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTableView>
+#include <QTest>
+
+#include <memory>
+
+#include "app/ToolWindows.h"
+#include "app/inspector/InfoClipboard.h"
+#include "app/inspector/InfoTableModel.h"
+#include "app/inspector/InfoWindow.h"
+#include "app/single/SingleFileWindow.h"
+#include "app/support/AppFixture.h"
+#include "documents/LumNotificationCenter.h"
+#include "documents/PhotoFiles.h"
+
+namespace fs = std::filesystem;
+using doctest_support::PhotoDates;
+using Control = OrbDatePicker::Control;
+
+namespace {
+
+constexpr const char* kA = "2020:01:31 10:00:00";
+constexpr const char* kB = "2019:06:01 08:30:00";
+constexpr std::uint16_t kDateTimeOriginal = 36867;
+
+struct Shell : AppFixture {
+  SingleFileWindow* front = nullptr;
+  ToolWindows tools{context, [this]() -> DocumentWindow* { return front; }};
+
+  std::unique_ptr<SingleFileWindow> open(const std::string& name, const PhotoDates& dates) {
+    auto doc = std::make_unique<LumSingleFileDoc>();
+    if (!doc->readFromURL(photo(name, dates), "JPEG", nullptr)) return nullptr;
+    auto window = std::make_unique<SingleFileWindow>(std::move(doc), context);
+    QObject::connect(window.get(), &DocumentWindow::windowClosing, &tools, &ToolWindows::documentWindowClosing);
+    window->show();
+    return window;
+  }
+  InfoWindow& inspector() { return tools.inspector(); }
+};
+
+void post(const char* name, const void* object) { LumNotificationCenter::defaultCenter().post(name, object); }
+
+// The row of an entry, -1 when the inspector shows none.
+int rowOfTag(const InfoWindow& info, std::uint16_t tag) {
+  const auto& rows = info.rows().IFDDataSources();
+  for (std::size_t i = 0; i < rows.size(); ++i)
+    if (rows[i].entry && rows[i].entry->ifdTag() == tag && rows[i].kind == LumInfoRowKind::Entry) return int(i);
+  return -1;
+}
+
+QString originalShown(const InfoWindow& info) {
+  const int row = rowOfTag(info, kDateTimeOriginal);
+  return row < 0 ? QString() : info.table().model()->index(row, InfoTableModel::Value).data().toString();
+}
+
+void typeHour(OrbDatePicker& picker, const char* hour) {
+  picker.setFocused(Control::hourField);
+  QVERIFY(picker.controlTextDidChange(Control::hourField, hour));
+  picker.controlTextDidEndEditing(Control::hourField);
+}
+
+void selectRows(InfoWindow& info, const std::vector<int>& rows) {
+  QItemSelectionModel& selection = *info.table().selectionModel();
+  selection.clear();
+  for (int row : rows)
+    selection.select(info.table().model()->index(row, 0), QItemSelectionModel::Select | QItemSelectionModel::Rows);
+}
+
+}  // namespace
+
+class InfoWindowTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void followsDocumentsAndFiles() {
+    Shell s;
+    auto a = s.open("a.jpg", {kA, kA, kA});
+    auto b = s.open("b.jpg", {kB, kB, kB});
+    InfoWindow& info = s.inspector();
+    QCOMPARE(info.objectName(), QStringLiteral("LumInfo"));
+    QCOMPARE(info.windowTitle(), QStringLiteral("Information"));
+    struct Step {
+      const char* notification;
+      const void* object;
+      const LumImageFile* shown;
+    };
+    const Step steps[] = {
+        {kLumDocumentDidChangeNotification, a->documentObject(), a->selectedImageFile()},
+        {kLumImageFileDidChangeNotification, b->selectedImageFile(), b->selectedImageFile()},
+        {kLumImageFileDidChangeNotification, nullptr, nullptr},
+        {kLumDocumentDidChangeNotification, b->documentObject(), b->selectedImageFile()},
+        {kLumDocumentDidChangeNotification, nullptr, nullptr},
+    };
+    for (const Step& step : steps) {
+      post(step.notification, step.object);
+      QCOMPARE(info.imageFile(), step.shown);
+      QCOMPARE(info.table().model()->rowCount() > 0, step.shown != nullptr);
+    }
+    post(kLumDocumentDidChangeNotification, b->documentObject());
+    QCOMPARE(originalShown(info), QString::fromLatin1(kB));
+  }
+
+  void anEditShowsOnlyOnceSaved() {
+    Shell s;
+    auto window = s.open("a.jpg", {kA, kA, kA});
+    InfoWindow& info = s.inspector();
+    post(kLumDocumentDidChangeNotification, window->documentObject());
+    typeHour(window->document().picker(DateTargets::Original), "23");
+    QVERIFY(window->isWindowModified());
+    QCOMPARE(originalShown(info), QString::fromLatin1(kA));
+
+    QSignalSpy saved(&window->document(), &LumSingleFileDoc::saveFinished);
+    window->findChild<QPushButton*>("saveFileButton")->click();
+    QVERIFY(saved.count() > 0 || saved.wait());
+    QVERIFY(window->document().lastSaveOutcome().saved);
+    // The save read the file again: the inspector shows the new file object.
+    QCOMPARE(info.imageFile(), window->selectedImageFile());
+    QCOMPARE(originalShown(info), QStringLiteral("2020:01:31 23:00:00"));
+  }
+
+  void toggleShowsAndHidesAndRenamesTheMenuItem() {
+    Shell s;
+    auto window = s.open("a.jpg", {kA, kA, kA});
+    s.front = window.get();
+    QAction& item = *s.actions.showInformation;
+    QCOMPARE(item.text(), QStringLiteral("Show Information"));
+
+    QList<const void*> posted;
+    QObject::connect(&LumNotificationCenter::defaultCenter(), &LumNotificationCenter::posted, &item,
+                     [&](const QString& name, const void* object) {
+                       if (name == QLatin1String(kLumImageFileDidChangeNotification)) posted << object;
+                     });
+    item.trigger();
+    QVERIFY(s.tools.isInspectorVisible());
+    QCOMPARE(item.text(), QStringLiteral("Hide Information"));
+    QCOMPARE(posted, QList<const void*>{window->selectedImageFile()});
+    QCOMPARE(s.inspector().imageFile(), window->selectedImageFile());
+
+    item.trigger();
+    QVERIFY(!s.tools.isInspectorVisible());
+    QCOMPARE(item.text(), QStringLiteral("Show Information"));
+    QCOMPARE(posted.back(), nullptr);
+    QCOMPARE(s.inspector().imageFile(), nullptr);
+
+    // The window's own close button counts as hiding it.
+    item.trigger();
+    QCOMPARE(item.text(), QStringLiteral("Hide Information"));
+    s.inspector().close();
+    QCOMPARE(item.text(), QStringLiteral("Show Information"));
+  }
+
+  void copyPutsTextAndEntriesOnTheClipboard() {
+    Shell s;
+    auto window = s.open("a.jpg", {kA, kB, kA});
+    InfoWindow& info = s.inspector();
+    info.setImageFile(window->selectedImageFile());
+    const int original = rowOfTag(info, kDateTimeOriginal);
+    const int digitized = rowOfTag(info, 36868);
+    QVERIFY(original > 0 && digitized > 0);
+    const auto& rows = info.rows().IFDDataSources();
+    const auto line = [&](int row) {
+      return QString::fromStdString(rows[std::size_t(row)].tagName) + '\t' +
+             QString::fromStdString(rows[std::size_t(row)].value);
+    };
+
+    struct Case {
+      const char* name;
+      std::vector<int> rows;
+      std::vector<int> entryRows;
+    };
+    const Case cases[] = {
+        {"one entry", {original}, {original}},
+        {"two entries, in row order", {digitized, original}, {std::min(original, digitized), std::max(original, digitized)}},
+        {"a heading copies text only", {0}, {}},
+    };
+    for (const Case& c : cases) {
+      selectRows(info, c.rows);
+      info.copyAction().trigger();
+      const QMimeData* data = QGuiApplication::clipboard()->mimeData();
+      QVERIFY2(data, c.name);
+      QStringList lines;
+      for (int row : c.rows) lines << line(row);
+      lines.sort();
+      QStringList copied = data->text().split('\n');
+      copied.sort();
+      QCOMPARE(copied, lines);
+      const std::vector<OrbIFDEntry> entries = InfoClipboard::entriesFromMimeData(*data);
+      QCOMPARE(entries.size(), c.entryRows.size());
+      for (std::size_t i = 0; i < entries.size(); ++i)
+        QVERIFY2(entries[i].isEqualToEntry(*rows[std::size_t(c.entryRows[i])].entry), c.name);
+      QCOMPARE(data->hasFormat(InfoClipboard::kEntryMimeType), !c.entryRows.empty());
+    }
+    QVERIFY(line(original).endsWith(QString::fromLatin1(kA)));
+  }
+
+  void headingColoursFollowTheAppearance() {
+    struct Case {
+      bool dark, selected;
+      std::optional<QColor> background, text;
+    };
+    const Case cases[] = {
+        {false, false, QColor::fromRgbF(0.8f, 0.8f, 0.8f), std::nullopt},
+        {false, true, std::nullopt, std::nullopt},
+        {true, false, QColor::fromRgbF(0.95f, 0.95f, 0.95f), QColor(Qt::black)},
+        {true, true, std::nullopt, QColor(Qt::white)},
+    };
+    for (const Case& c : cases) {
+      const InfoHeadingColors colours = infoHeadingColors(c.dark, c.selected);
+      QCOMPARE(colours.background, c.background);
+      QCOMPARE(colours.text, c.text);
+    }
+  }
+
+  void aClosingWindowEmptiesTheInspector() {
+    Shell s;
+    auto a = s.open("a.jpg", {kA, kA, kA});
+    auto b = s.open("b.jpg", {kB, kB, kB});
+    InfoWindow& info = s.inspector();
+    info.setImageFile(a->selectedImageFile());
+    b->close();  // another window: the inspector keeps its file
+    QCOMPARE(info.imageFile(), a->selectedImageFile());
+    a->close();
+    QCOMPARE(info.imageFile(), nullptr);
+    QCOMPARE(info.table().model()->rowCount(), 0);
+  }
+
+  void geometryIsKept() {
+    Shell s;
+    s.inspector().setGeometry(100, 120, 333, 444);
+    s.inspector().show();
+    s.inspector().hide();
+    InfoWindow again(&s.settings);
+    QCOMPARE(again.size(), QSize(333, 444));
+  }
+};
+
+QTEST_MAIN(InfoWindowTest)
+#include "InfoWindowTest.moc"
