@@ -1,6 +1,7 @@
 #include "app/inspector/InfoClipboard.h"
 
 #include <QDataStream>
+#include <QIODevice>
 #include <QList>
 
 #include "formats/inspector/LumInfoDataSource.h"
@@ -33,7 +34,8 @@ std::unique_ptr<QMimeData> mimeDataForRows(const std::vector<const LumInfoRow*>&
   if (!archives.isEmpty()) {
     data->setData(QString::fromLatin1(kEntryMimeType), archives.front());
     QByteArray list;
-    QDataStream(&list, QIODevice::WriteOnly) << archives;
+    QDataStream out(&list, QIODevice::WriteOnly);
+    out << archives;
     data->setData(QString::fromLatin1(kEntryListMimeType), list);
   }
   return data;

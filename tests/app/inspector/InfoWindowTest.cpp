@@ -16,6 +16,7 @@
 #include "app/inspector/InfoClipboard.h"
 #include "app/inspector/InfoTableModel.h"
 #include "app/inspector/InfoWindow.h"
+#include "app/multi/MultiFileWindow.h"
 #include "app/single/SingleFileWindow.h"
 #include "app/support/AppFixture.h"
 #include "documents/LumNotificationCenter.h"
@@ -219,15 +220,23 @@ class InfoWindowTest : public QObject {
     }
   }
 
+  // A multi-file window posts nothing when it closes: the inspector lets go
+  // of its file only through the closing hook.
   void aClosingWindowEmptiesTheInspector() {
     Shell s;
-    auto a = s.open("a.jpg", {kA, kA, kA});
-    auto b = s.open("b.jpg", {kB, kB, kB});
+    auto single = s.open("a.jpg", {kA, kA, kA});
+    std::vector<std::unique_ptr<LumFileItemDoc>> items;
+    for (const char* name : {"m1.jpg", "m2.jpg"}) items.push_back(doctest_support::openItem(s.photo(name)));
+    auto multi = std::make_unique<MultiFileWindow>(std::make_unique<LumMultiFileDoc>(std::move(items)), s.context);
+    QObject::connect(multi.get(), &DocumentWindow::windowClosing, &s.tools, &ToolWindows::documentWindowClosing);
+    multi->show();
     InfoWindow& info = s.inspector();
-    info.setImageFile(a->selectedImageFile());
-    b->close();  // another window: the inspector keeps its file
-    QCOMPARE(info.imageFile(), a->selectedImageFile());
-    a->close();
+    multi->document().setSelectedRows({1}, true);
+    QCOMPARE(info.imageFile(), multi->selectedImageFile());
+    QVERIFY(info.imageFile() != nullptr);
+    single->close();  // another window's file is not shown: nothing changes
+    QCOMPARE(info.imageFile(), multi->selectedImageFile());
+    multi->close();
     QCOMPARE(info.imageFile(), nullptr);
     QCOMPARE(info.table().model()->rowCount(), 0);
   }
