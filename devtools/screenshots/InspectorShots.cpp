@@ -34,7 +34,7 @@ void shootInspector(DocumentController& controller, AppContext& context, Session
   ToolWindows tools(context, [window]() -> DocumentWindow* { return window; });
   tools.toggleInspector();
   InfoWindow& info = tools.inspector();
-  info.resize(520, 760);
+  info.resize(520, 600);
   if (!waitUntil([&] { return info.isVisible() && info.table().model()->rowCount() > 0; })) return;
   session.shoot(QStringLiteral("inspector-gps"), info);
 

@@ -100,7 +100,11 @@ void InfoWindow::notified(const QString& name, const void* object) { reload(foll
 void InfoWindow::reload(bool rebuilt) {
   if (!rebuilt) return;
   model_->reload();
+  // The titles set the first column's width, with room to spare so the
+  // longest one does not touch the grid line.
   table_->resizeColumnToContents(InfoTableModel::TagName);
+  table_->setColumnWidth(InfoTableModel::TagName,
+                         table_->columnWidth(InfoTableModel::TagName) + table_->fontMetrics().averageCharWidth() * 2);
 }
 
 void InfoWindow::copySelection() {
