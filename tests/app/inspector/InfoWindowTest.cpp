@@ -200,6 +200,15 @@ class InfoWindowTest : public QObject {
       QCOMPARE(data->hasFormat(InfoClipboard::kEntryMimeType), !c.entryRows.empty());
     }
     QVERIFY(line(original).endsWith(QString::fromLatin1(kA)));
+
+    // Ctrl+C in the table copies the entry too, not only the cell's text.
+    info.show();
+    info.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&info));
+    selectRows(info, {original});
+    QGuiApplication::clipboard()->clear();
+    QTest::keyClick(&info.table(), Qt::Key_C, Qt::ControlModifier);
+    QTRY_VERIFY(QGuiApplication::clipboard()->mimeData()->hasFormat(InfoClipboard::kEntryMimeType));
   }
 
   void headingColoursFollowTheAppearance() {
