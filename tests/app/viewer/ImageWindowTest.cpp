@@ -1,6 +1,7 @@
-// The image viewer over real photo files: the information text, the same
-// file asked twice, a file that cannot be decoded, the click/drag rule, the
-// empty state, following a multi-file window and the launch setting.
+// The image viewer over real photo files: the information text (with and
+// without a model, hidden by the stored choice, a file that cannot be
+// decoded), the same file asked twice, the click/drag rule and the I key,
+// the empty state, following a multi-file window and the launch setting.
 #include <QAction>
 #include <QLabel>
 #include <QMouseEvent>
@@ -77,24 +78,29 @@ class ImageWindowTest : public QObject {
 
   void informationText_data() {
     QTest::addColumn<std::optional<std::string>>("model");
-    QTest::addColumn<bool>("spoiled");  // the file is no image any more when shown
+    QTest::addColumn<bool>("spoiled");   // the file is no image any more when shown
+    QTest::addColumn<bool>("showInfo");  // the stored choice
     QTest::addColumn<QString>("text");
     QTest::addColumn<QSize>("picture");
-    QTest::newRow("with model") << std::optional<std::string>("Cam X") << false << "16 x 8, Cam X" << QSize(16, 8);
-    QTest::newRow("without model") << std::optional<std::string>() << false << "16 x 8" << QSize(16, 8);
-    QTest::newRow("cannot be decoded") << std::optional<std::string>("Cam X") << true << "" << QSize(0, 0);
+    const std::optional<std::string> camera("Cam X"), none;
+    QTest::newRow("with model") << camera << false << true << "16 x 8, Cam X" << QSize(16, 8);
+    QTest::newRow("without model") << none << false << true << "16 x 8" << QSize(16, 8);
+    QTest::newRow("text hidden by choice") << camera << false << false << "16 x 8, Cam X" << QSize(16, 8);
+    QTest::newRow("cannot be decoded") << camera << true << true << "" << QSize(0, 0);
   }
   void informationText() {
     QFETCH(std::optional<std::string>, model);
     QFETCH(bool, spoiled);
+    QFETCH(bool, showInfo);
     QFETCH(QString, text);
     QFETCH(QSize, picture);
     const auto doc = item("a.jpg", photoWithModel(model));
     if (spoiled) writeBytes(f_->folder / "a.jpg", {0xFF, 0xD8, 0xFF, 0xD9});
+    f_->settings.setShowInformation(showInfo);
     ImageWindow window(f_->settings);
     QVERIFY(show(window, &doc->imageFile()));
     QCOMPARE(textOf(window), text);
-    QCOMPARE(textShown(window), !text.isEmpty());
+    QCOMPARE(textShown(window), showInfo && !text.isEmpty());
     QCOMPARE(pictureSize(window), picture);
     QCOMPARE(window.windowTitle(), QString("a.jpg"));
   }
@@ -140,15 +146,6 @@ class ImageWindowTest : public QObject {
     QVERIFY(!textShown(window));
     QTest::keyClick(&window, Qt::Key_I);
     QVERIFY(textShown(window));
-  }
-
-  void storedHiddenTextStaysHiddenOnLoad() {
-    f_->settings.setShowInformation(false);
-    const auto doc = item("a.jpg", photoWithModel("Cam X"));
-    ImageWindow window(f_->settings);
-    QVERIFY(show(window, &doc->imageFile()));
-    QCOMPARE(textOf(window), QString("16 x 8, Cam X"));
-    QVERIFY(!textShown(window));
   }
 
   void askedForNothingWhileEmptyStaysEmpty() {
