@@ -29,7 +29,8 @@ class ImageWindow : public QWidget {
   ~ImageWindow() override;
 
   // Shows the file, or nothing (title "Lumidate"). Nothing happens when
-  // the file is the one already shown. The file is only looked at here, on
+  // the file is the one already shown. A file that cannot be decoded shows
+  // no picture and no text, only its name in the title. The file is only looked at here, on
   // the GUI thread; it need not outlive the decoding.
   void setImageFile(const LumImageFile* file);
   // Brings the window to the front, then shows the file; asked to show
