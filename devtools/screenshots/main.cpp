@@ -23,6 +23,7 @@
 
 #include "InspectorShots.h"
 #include "ScreenshotSession.h"
+#include "ViewerShots.h"
 #include "app/AppActions.h"
 #include "app/DialogPrompts.h"
 #include "app/DocumentController.h"
@@ -42,7 +43,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kWaitMs = 20000;
-constexpr int kPictures = 14;
+constexpr int kPictures = 16;
 
 // The program's dialogs, except that a handed-over folder opens in one
 // window without asking.
@@ -237,6 +238,7 @@ int main(int argc, char** argv) {
   shootSingleWindow(controller, session, photos / "only-original.jpg");
   shootMixedPicker(session);
   Screenshots::shootInspector(controller, context, session, photos / "gps-summit.jpg");
+  Screenshots::shootViewer(session, settings, photos);
   std::printf("%d pictures in %s\n", session.written(), qPrintable(args[2]));
   for (DocumentWindow* w : controller.windows()) delete w;
   return session.written() == kPictures ? 0 : 1;

@@ -188,6 +188,18 @@
         <translation>%1 / %2</translation>
     </message>
     <message>
+        <source>%ld x %ld</source>
+        <translation>%1 x %2</translation>
+    </message>
+    <message>
+        <source>, %@</source>
+        <translation>, %1</translation>
+    </message>
+    <message>
+        <source>Lumidate</source>
+        <translation>Lumidate</translation>
+    </message>
+    <message>
         <source>You are opening multiple files.</source>
         <translation>You are opening %1 files.</translation>
     </message>

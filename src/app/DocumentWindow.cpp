@@ -5,6 +5,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+#include "app/ToolWindows.h"
 #include "documents/LumLocalized.h"
 
 namespace {
@@ -92,4 +93,13 @@ void DocumentWindow::closeEvent(QCloseEvent* event) {
   }
   event->ignore();
   if (!reviewing_) askToSaveAndQuitApp(false);
+}
+
+void DocumentWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) showSelectionInImageWindow();
+}
+
+void DocumentWindow::showSelectionInImageWindow() {
+  if (context_.tools) context_.tools->imageWindowFollow(selectedImageFile());
 }

@@ -76,6 +76,11 @@ class DocumentWindow : public QMainWindow {
   void closeSaveFinished(bool saved);
 
   void closeEvent(QCloseEvent* event) override;
+  // Becoming the active window points a visible image viewer at this
+  // window's selected file.
+  void changeEvent(QEvent* event) override;
+  // A visible image viewer shows selectedImageFile() (nothing when none).
+  void showSelectionInImageWindow();
 
   AppContext& context() const { return context_; }
 

@@ -3,11 +3,16 @@
 #include <QAction>
 #include <QApplication>
 
+#include <algorithm>
+#include <filesystem>
+#include <vector>
+
 #include "app/AppActions.h"
 #include "app/AppContext.h"
 #include "app/DocumentWindow.h"
 #include "app/calculator/DayCalculatorWindow.h"
 #include "app/inspector/InfoWindow.h"
+#include "app/preferences/Settings.h"
 #include "app/viewer/ImageWindow.h"
 #include "documents/LumLocalized.h"
 #include "documents/LumNotificationCenter.h"
@@ -30,6 +35,13 @@ const LumImageFile* ToolWindows::currentImageFile() const {
 
 void ToolWindows::documentWindowClosing(DocumentWindow* window) {
   if (inspector_ && window) inspector_->letGoOf(window->openFiles(), window->selectedImageFile());
+  // Image viewer: its file goes away with the window.
+  if (imageWindow_ && imageWindow_->imageFile()) {
+    const std::vector<std::filesystem::path> files = window->openFiles();
+    if (imageWindow_->imageFile() == window->selectedImageFile() ||
+        std::find(files.begin(), files.end(), imageWindow_->imagePath()) != files.end())
+      imageWindow_->setImageFile(nullptr);
+  }
 }
 
 // --- Inspector -------------------------------------------------------------------
@@ -77,13 +89,26 @@ void ToolWindows::updateInformationTitle() {
 // --- Image viewer ----------------------------------------------------------------
 
 ImageWindow& ToolWindows::imageWindow() {
-  if (!imageWindow_) imageWindow_ = std::make_unique<ImageWindow>();
+  if (!imageWindow_) imageWindow_ = std::make_unique<ImageWindow>(context_.settings);
   return *imageWindow_;
 }
 
 bool ToolWindows::isImageWindowVisible() const { return imageWindow_ && imageWindow_->isVisible(); }
 
-void ToolWindows::showImageWindow() { imageWindow().show(); }
+void ToolWindows::showImageWindow() { imageWindow().showWindowWithImageFile(currentImageFile()); }
+
+void ToolWindows::imageWindowFollow(const LumImageFile* selectedFile) {
+  if (isImageWindowVisible()) imageWindow_->setImageFile(selectedFile);
+}
+
+void ToolWindows::restoreImageWindowAtLaunch() {
+  if (context_.settings.showImageView()) imageWindow().showWindowWithImageFile(nullptr);
+}
+
+void ToolWindows::rememberImageWindow() {
+  context_.settings.setShowImageView(isImageWindowVisible());
+  if (imageWindow_) imageWindow_->saveFrame();
+}
 
 // --- Day count calculator -----------------------------------------------------------
 

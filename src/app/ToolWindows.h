@@ -47,6 +47,13 @@ class ToolWindows : public QObject {
   // The show-image command: the viewer in front, showing the front
   // document's selected file.
   void showImageWindow();
+  // A document window's selection changed or the window became active:
+  // a visible viewer shows its selected file (null: nothing).
+  void imageWindowFollow(const LumImageFile* selectedFile);
+  // At launch: the viewer, empty, when it was open at the last quit.
+  void restoreImageWindowAtLaunch();
+  // At quit: stores whether the viewer is open, and its frame.
+  void rememberImageWindow();
 
   // --- Day count calculator
   DayCalculatorWindow& dayCalculator();

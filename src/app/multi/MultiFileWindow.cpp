@@ -187,6 +187,7 @@ void MultiFileWindow::tableSelectionChanged() {
   std::vector<int> rows;
   for (const QModelIndex& index : table_->selectionModel()->selectedRows()) rows.push_back(index.row());
   document_->setSelectedRows(rows, isActiveWindow());
+  showSelectionInImageWindow();
   const LumFileItemDoc* shown = document_->_selectedDocument();
   path_->setText(shown ? QString::fromStdString(shown->path().string()) : QString());
   actions_->refresh();

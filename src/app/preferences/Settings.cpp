@@ -37,6 +37,13 @@ void Settings::setShowImageView(bool on) { store_.setValue(kShowImageView, on); 
 bool Settings::useSingleWindow() const { return store_.value(kUseSingleWindow, false).toBool(); }
 void Settings::setUseSingleWindow(bool on) { store_.setValue(kUseSingleWindow, on); }
 
+QByteArray Settings::windowFrame(const QString& name) const {
+  return store_.value(name).toByteArray();
+}
+void Settings::setWindowFrame(const QString& name, const QByteArray& frame) {
+  store_.setValue(name, frame);
+}
+
 int Settings::buildNumber() const { return store_.value(kBuildNumberKey, 0).toInt(); }
 
 QByteArray Settings::tableLayout() const { return store_.value(kTableHeaderState).toByteArray(); }

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QSettings>
+#include <QString>
 
 class Settings {
  public:
@@ -34,6 +35,11 @@ class Settings {
   // The multi-file table's header state (column order, widths, sort order).
   QByteArray tableLayout() const;
   void setTableLayout(const QByteArray& state);
+
+  // A tool window's frame (QWidget::saveGeometry), stored under its own
+  // name ("LumImageWindow" for the image viewer); empty when none was.
+  QByteArray windowFrame(const QString& name) const;
+  void setWindowFrame(const QString& name, const QByteArray& frame);
 
   // Row height in pixels of a list size, and the thumbnail column's width.
   static int rowHeightForListSize(int size);

@@ -87,6 +87,7 @@ bool AppStartup::start() {
   settings_->registerDefaults();
   settings_->migrateFromOlderBuild();
   makeDocumentController();
+  tools_->restoreImageWindowAtLaunch();
 
   connect(instance_.get(), &SingleInstance::filesHandedOver, this, &AppStartup::filesHandedOver);
   connect(&queue_, &OpenQueue::ready, this, [this](const QStringList& paths) {
@@ -130,7 +131,6 @@ void AppStartup::showOpenDialogOnce() {
 }
 
 void AppStartup::terminate() {
-  // The image viewer is not part of this build: it is never shown at start.
-  settings_->setShowImageView(false);
+  tools_->rememberImageWindow();
   store_->sync();
 }

@@ -1,0 +1,209 @@
+// The image viewer over real photo files: the information text (with and
+// without a model, hidden by the stored choice, a file that cannot be
+// decoded), the same file asked twice, the click/drag rule and the I key,
+// the empty state, following a multi-file window and the launch setting.
+#include <QAction>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <memory>
+#include <optional>
+
+#include "app/ToolWindows.h"
+#include "app/multi/FileTableView.h"
+#include "app/support/AppFixture.h"
+#include "app/viewer/ClipView.h"
+#include "app/viewer/ImageWindow.h"
+
+using namespace doctest_support;
+namespace fs = std::filesystem;
+
+namespace {
+
+// 16 x 8 pixels; IFD0 holds a Model when one is given.
+std::vector<std::uint8_t> photoWithModel(const std::optional<std::string>& model) {
+  std::vector<lumtest::AsciiEntry> ifd0{{0x010F, std::string("Maker\0", 6)}};
+  if (model) ifd0.push_back({0x0110, *model + std::string(1, '\0')});
+  return lumtest::JpegBuilder().exif(lumtest::exifTiff(ifd0, {})).build();
+}
+
+QString textOf(const ImageWindow& window) {
+  return window.findChild<QLabel*>("imageInformation")->text();
+}
+bool textShown(const ImageWindow& window) {
+  return window.findChild<QLabel*>("imageInformation")->isVisibleTo(&window);
+}
+QSize pictureSize(const ImageWindow& window) {
+  return window.findChild<QLabel*>("imagePicture")->pixmap().size();
+}
+
+// A left-button press, optional move by `by`, and release on the picture.
+void clickOrDrag(ImageWindow& window, QPoint by) {
+  QWidget* viewport = window.findChild<ClipView*>("imageClipView")->viewport();
+  const QPoint at(4, 4);
+  const auto send = [&](QEvent::Type type, QPoint pos, Qt::MouseButton button, Qt::MouseButtons buttons) {
+    QMouseEvent event(type, pos, viewport->mapToGlobal(pos), button, buttons, Qt::NoModifier);
+    QApplication::sendEvent(viewport, &event);
+  };
+  send(QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::LeftButton);
+  if (!by.isNull()) send(QEvent::MouseMove, at + by, Qt::NoButton, Qt::LeftButton);
+  send(QEvent::MouseButtonRelease, at + by, Qt::LeftButton, Qt::NoButton);
+}
+
+}  // namespace
+
+class ImageWindowTest : public QObject {
+  Q_OBJECT
+
+  std::optional<AppFixture> f_;
+
+  // A photo opened as a row document (its file then knows its path).
+  std::unique_ptr<LumFileItemDoc> item(const std::string& name, const std::vector<std::uint8_t>& bytes) {
+    const fs::path path = f_->folder / name;
+    writeBytes(path, bytes);
+    return openItem(path);
+  }
+  // Shows the file and waits until the window shows it.
+  static bool show(ImageWindow& window, const LumImageFile* file) {
+    QSignalSpy shown(&window, &ImageWindow::imageShown);
+    window.setImageFile(file);
+    return shown.count() > 0 || shown.wait(10000);
+  }
+
+ private slots:
+  void init() { f_.emplace(); }
+  void cleanup() { f_.reset(); }
+
+  void informationText_data() {
+    QTest::addColumn<std::optional<std::string>>("model");
+    QTest::addColumn<bool>("spoiled");   // the file is no image any more when shown
+    QTest::addColumn<bool>("showInfo");  // the stored choice
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QSize>("picture");
+    const std::optional<std::string> camera("Cam X"), none;
+    QTest::newRow("with model") << camera << false << true << "16 x 8, Cam X" << QSize(16, 8);
+    QTest::newRow("without model") << none << false << true << "16 x 8" << QSize(16, 8);
+    QTest::newRow("text hidden by choice") << camera << false << false << "16 x 8, Cam X" << QSize(16, 8);
+    QTest::newRow("cannot be decoded") << camera << true << true << "" << QSize(0, 0);
+  }
+  void informationText() {
+    QFETCH(std::optional<std::string>, model);
+    QFETCH(bool, spoiled);
+    QFETCH(bool, showInfo);
+    QFETCH(QString, text);
+    QFETCH(QSize, picture);
+    const auto doc = item("a.jpg", photoWithModel(model));
+    if (spoiled) writeBytes(f_->folder / "a.jpg", {0xFF, 0xD8, 0xFF, 0xD9});
+    f_->settings.setShowInformation(showInfo);
+    ImageWindow window(f_->settings);
+    QVERIFY(show(window, &doc->imageFile()));
+    QCOMPARE(textOf(window), text);
+    QCOMPARE(textShown(window), showInfo && !text.isEmpty());
+    QCOMPARE(pictureSize(window), picture);
+    QCOMPARE(window.windowTitle(), QString("a.jpg"));
+  }
+
+  void sameFileTwiceIsNotReadAgain() {
+    const auto doc = item("a.jpg", photoWithModel("Cam X"));
+    ImageWindow window(f_->settings);
+    QVERIFY(show(window, &doc->imageFile()));
+    // Read again, the file would now show nothing.
+    writeBytes(f_->folder / "a.jpg", {0xFF, 0xD8, 0xFF, 0xD9});
+    QSignalSpy shown(&window, &ImageWindow::imageShown);
+    window.setImageFile(&doc->imageFile());
+    QVERIFY(!shown.wait(300));
+    QCOMPARE(textOf(window), QString("16 x 8, Cam X"));
+  }
+
+  void clickTogglesTextDragDoesNot_data() {
+    QTest::addColumn<QPoint>("move");
+    QTest::addColumn<bool>("toggles");
+    QTest::newRow("click") << QPoint() << true;
+    QTest::newRow("drag") << QPoint(5, 3) << false;
+  }
+  void clickTogglesTextDragDoesNot() {
+    QFETCH(QPoint, move);
+    QFETCH(bool, toggles);
+    const auto doc = item("a.jpg", photoWithModel("Cam X"));
+    ImageWindow window(f_->settings);
+    QVERIFY(show(window, &doc->imageFile()));
+    QVERIFY(textShown(window));
+    clickOrDrag(window, move);
+    QCOMPARE(textShown(window), !toggles);
+    QCOMPARE(f_->settings.showInformation(), !toggles);
+    QCOMPARE(window.findChild<QAction*>("imageInformationAction")->isChecked(), !toggles);
+  }
+
+  void keyShortcutTogglesText() {
+    const auto doc = item("a.jpg", photoWithModel(std::nullopt));
+    ImageWindow window(f_->settings);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(show(window, &doc->imageFile()));
+    QTest::keyClick(&window, Qt::Key_I);
+    QVERIFY(!textShown(window));
+    QTest::keyClick(&window, Qt::Key_I);
+    QVERIFY(textShown(window));
+  }
+
+  void askedForNothingWhileEmptyStaysEmpty() {
+    ImageWindow window(f_->settings);
+    QSignalSpy shown(&window, &ImageWindow::imageShown);
+    window.showWindowWithImageFile(nullptr);
+    QVERIFY(window.isVisible());
+    QCOMPARE(shown.count(), 0);
+    QCOMPARE(window.windowTitle(), QString("Lumidate"));
+    QVERIFY(pictureSize(window).isEmpty());
+  }
+
+  void followsMultiFileSelectionAndLetsGoOnClose() {
+    std::vector<std::unique_ptr<LumFileItemDoc>> items;
+    items.push_back(item("a.jpg", photoWithModel("Cam A")));
+    items.push_back(item("b.jpg", photoWithModel(std::nullopt)));
+    MultiFileWindow window(std::make_unique<LumMultiFileDoc>(std::move(items)), f_->context);
+    ToolWindows tools(f_->context, [&window]() -> DocumentWindow* { return &window; });
+    f_->context.tools = &tools;
+    window.show();
+    tools.showImageWindow();  // nothing selected: the viewer opens empty
+    ImageWindow& viewer = tools.imageWindow();
+    QVERIFY(viewer.isVisible());
+
+    QSignalSpy shown(&viewer, &ImageWindow::imageShown);
+    const int rowB = *window.document().rowOf(window.document().itemForURL(f_->folder / "b.jpg"));
+    window.table().selectRow(rowB);
+    QVERIFY(shown.wait(10000));
+    QCOMPARE(viewer.windowTitle(), QString("b.jpg"));
+    QCOMPARE(textOf(viewer), QString("16 x 8"));
+
+    tools.documentWindowClosing(&window);
+    QCOMPARE(viewer.imageFile(), nullptr);
+    QCOMPARE(viewer.windowTitle(), QString("Lumidate"));
+    QVERIFY(!textShown(viewer));
+    f_->context.tools = nullptr;
+  }
+
+  void launchReopensViewerWhenItWasOpen_data() {
+    QTest::addColumn<bool>("wasOpen");
+    QTest::newRow("was open") << true;
+    QTest::newRow("was closed") << false;
+  }
+  void launchReopensViewerWhenItWasOpen() {
+    QFETCH(bool, wasOpen);
+    f_->settings.setShowImageView(wasOpen);
+    ToolWindows tools(f_->context, [] { return nullptr; });
+    tools.restoreImageWindowAtLaunch();
+    QCOMPARE(tools.isImageWindowVisible(), wasOpen);
+    if (wasOpen) QCOMPARE(tools.imageWindow().imageFile(), nullptr);
+    // At quit the viewer's state is what is stored, whatever it was.
+    if (wasOpen) tools.imageWindow().close();
+    else tools.showImageWindow();
+    tools.rememberImageWindow();
+    QCOMPARE(f_->settings.showImageView(), !wasOpen);
+    QVERIFY(!f_->settings.windowFrame("LumImageWindow").isEmpty());
+  }
+};
+
+QTEST_MAIN(ImageWindowTest)
+#include "ImageWindowTest.moc"
