@@ -45,22 +45,35 @@ if(HELP2MAN AND NOT LUMIDATE_SANITIZE AND NOT LUMIDATE_FUZZ)
   lumidate_man_page(lumidate-cli "read, shift and set the dates stored in photo files"
                     INCLUDE ${cli_commands} DEPENDS lumidate-cli-commands)
   lumidate_man_page(lumidate "show and correct the dates stored in photo files")
-  add_custom_target(lumidate_man_pages ALL DEPENDS ${man_pages})
 elseif(NOT HELP2MAN)
   message(STATUS "help2man not found: no man pages (scripts/install-deps installs it)")
 endif()
 
-# Debian puts the copyright notice and the documentation of a package in
-# /usr/share/doc/<package>.
-install(FILES ${CMAKE_SOURCE_DIR}/README.md ${CMAKE_SOURCE_DIR}/resources/package/copyright
+# Debian puts the copyright notice, the changelog and the documentation of
+# a package in /usr/share/doc/<package>. The changelog's date is the build's
+# (or SOURCE_DATE_EPOCH for a reproducible build).
+set(LUMIDATE_PACKAGE_MAINTAINER "Lumidate developers <packages@lumidate.org>"
+    CACHE STRING "Maintainer field of the Debian package")
+set(LUMIDATE_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_VERSION_FULL ${PROJECT_VERSION}-${LUMIDATE_PACKAGE_RELEASE})
+string(TIMESTAMP changelog_date "%a, %d %b %Y %H:%M:%S +0000" UTC)
+set(changelog ${CMAKE_BINARY_DIR}/package-doc/changelog.Debian)
+configure_file(${CMAKE_SOURCE_DIR}/resources/package/changelog.Debian.in ${changelog} @ONLY)
+add_custom_command(
+  OUTPUT ${changelog}.gz
+  COMMAND gzip -9nkf ${changelog}
+  DEPENDS ${changelog}
+  VERBATIM)
+# Everything generated that an install copies besides the programs and the
+# desktop resources.
+add_custom_target(lumidate_package_files ALL DEPENDS ${changelog}.gz ${man_pages})
+install(FILES ${CMAKE_SOURCE_DIR}/README.md ${CMAKE_SOURCE_DIR}/resources/package/copyright ${changelog}.gz
         DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/lumidate)
 
 # The Debian package. The libraries it needs are found by dpkg-shlibdeps in
 # the built programs and their parts, so they are the distribution's own
 # package names and versions. Qt loads its platform plugin at run time, so
 # no library dependency names it; without it the program cannot start.
-set(LUMIDATE_PACKAGE_MAINTAINER "Lumidate developers <packages@lumidate.org>"
-    CACHE STRING "Maintainer field of the Debian package")
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME lumidate)
 set(CPACK_PACKAGE_VENDOR Lumidate)
@@ -70,7 +83,7 @@ set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_PACKAGE_DIRECTORY ${CMAKE_BINARY_DIR}/package)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
-set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_RELEASE ${LUMIDATE_PACKAGE_RELEASE})
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER ${LUMIDATE_PACKAGE_MAINTAINER})
 set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
