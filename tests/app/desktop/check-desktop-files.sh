@@ -13,7 +13,7 @@ desktop-file-validate "$src/resources/$id.desktop"
 appstreamcli validate --no-net "$src/resources/$id.metainfo.xml"
 
 # Everything an install copies must exist (a no-op when it is built).
-cmake --build "$build" --target lumidate lumidate-cli lumidate_icons >/dev/null
+cmake --build "$build" --target lumidate lumidate-cli lumidate_icons lumidate_package_files >/dev/null
 prefix=$(mktemp -d)
 trap 'rm -rf "$prefix"' EXIT
 cmake --install "$build" --prefix "$prefix" >/dev/null
