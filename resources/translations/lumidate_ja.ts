@@ -5,1622 +5,1622 @@
     <name>AppActions</name>
     <message>
         <source>&amp;Open...</source>
-        <translation type="unfinished"></translation>
+        <translation>開く(&amp;O)...</translation>
     </message>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>最近使った項目を開く(&amp;R)</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>終了(&amp;Q)</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>取り消す</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>やり直す</translation>
     </message>
     <message>
         <source>&amp;Small</source>
-        <translation type="unfinished"></translation>
+        <translation>小(&amp;S)</translation>
     </message>
     <message>
         <source>&amp;Medium</source>
-        <translation type="unfinished"></translation>
+        <translation>中(&amp;M)</translation>
     </message>
     <message>
         <source>&amp;Large</source>
-        <translation type="unfinished"></translation>
+        <translation>大(&amp;L)</translation>
     </message>
     <message>
         <source>Show Information</source>
-        <translation type="unfinished"></translation>
+        <translation>情報を表示</translation>
     </message>
     <message>
         <source>Image Viewer</source>
-        <translation type="unfinished"></translation>
+        <translation>イメージビューア</translation>
     </message>
     <message>
         <source>Day Count Calculator</source>
-        <translation type="unfinished"></translation>
+        <translation>日数計算機</translation>
     </message>
     <message>
         <source>&amp;About Lumidate</source>
-        <translation type="unfinished"></translation>
+        <translation>Lumidate について(&amp;A)</translation>
     </message>
 </context>
 <context>
     <name>ChangeByIntervalSheet</name>
     <message>
         <source>Change by Interval</source>
-        <translation type="unfinished"></translation>
+        <translation>間隔で変更</translation>
     </message>
     <message>
         <source>Mode:</source>
-        <translation type="unfinished"></translation>
+        <translation>モード:</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>モード</translation>
     </message>
 </context>
 <context>
     <name>ChangeControls</name>
     <message>
         <source>Mode:</source>
-        <translation type="unfinished"></translation>
+        <translation>モード:</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>モード</translation>
     </message>
 </context>
 <context>
     <name>DatePickerStepper</name>
     <message>
         <source>Stepper</source>
-        <translation type="unfinished"></translation>
+        <translation>ステッパー</translation>
     </message>
     <message>
         <source>Step Up</source>
-        <translation type="unfinished"></translation>
+        <translation>増やす</translation>
     </message>
     <message>
         <source>Step Down</source>
-        <translation type="unfinished"></translation>
+        <translation>減らす</translation>
     </message>
 </context>
 <context>
     <name>DatePickerWidget</name>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>年</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>月</translation>
     </message>
     <message>
         <source>Day</source>
-        <translation type="unfinished"></translation>
+        <translation>日</translation>
     </message>
     <message>
         <source>Hour</source>
-        <translation type="unfinished"></translation>
+        <translation>時</translation>
     </message>
     <message>
         <source>Minute</source>
-        <translation type="unfinished"></translation>
+        <translation>分</translation>
     </message>
     <message>
         <source>Second</source>
-        <translation type="unfinished"></translation>
+        <translation>秒</translation>
     </message>
     <message>
         <source>Millisecond</source>
-        <translation type="unfinished"></translation>
+        <translation>ミリ秒</translation>
     </message>
 </context>
 <context>
     <name>IFD</name>
     <message>
         <source>Byte Order</source>
-        <translation type="unfinished"></translation>
+        <translation>バイトオーダー</translation>
     </message>
     <message>
         <source>New Subfile Type</source>
-        <translation type="unfinished"></translation>
+        <translation>新サブファイルタイプ</translation>
     </message>
     <message>
         <source>Subfile Type</source>
-        <translation type="unfinished"></translation>
+        <translation>サブファイルタイプ</translation>
     </message>
     <message>
         <source>Image Width</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の幅</translation>
     </message>
     <message>
         <source>Image Length</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の高さ</translation>
     </message>
     <message>
         <source>Bits per Sample</source>
-        <translation type="unfinished"></translation>
+        <translation>画像のビットの深さ</translation>
     </message>
     <message>
         <source>Compression</source>
-        <translation type="unfinished"></translation>
+        <translation>圧縮の種類</translation>
     </message>
     <message>
         <source>Photometric Interpretation</source>
-        <translation type="unfinished"></translation>
+        <translation>画素構成</translation>
     </message>
     <message>
         <source>Threshholding</source>
-        <translation type="unfinished"></translation>
+        <translation>しきい値処理</translation>
     </message>
     <message>
         <source>Cell Width</source>
-        <translation type="unfinished"></translation>
+        <translation>セルの幅</translation>
     </message>
     <message>
         <source>Cell Length</source>
-        <translation type="unfinished"></translation>
+        <translation>セルの高さ</translation>
     </message>
     <message>
         <source>Fill Order</source>
-        <translation type="unfinished"></translation>
+        <translation>フィルオーダー</translation>
     </message>
     <message>
         <source>Document Name</source>
-        <translation type="unfinished"></translation>
+        <translation>ドキュメント名</translation>
     </message>
     <message>
         <source>Image Description</source>
-        <translation type="unfinished"></translation>
+        <translation>画像タイトル</translation>
     </message>
     <message>
         <source>Make</source>
-        <translation type="unfinished"></translation>
+        <translation>メーカー</translation>
     </message>
     <message>
         <source>Model</source>
-        <translation type="unfinished"></translation>
+        <translation>モデル</translation>
     </message>
     <message>
         <source>Strip Offsets</source>
-        <translation type="unfinished"></translation>
+        <translation>画像データのロケーション</translation>
     </message>
     <message>
         <source>Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>画像方向</translation>
     </message>
     <message>
         <source>Samples per Pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>コンポーネント数</translation>
     </message>
     <message>
         <source>Rows per Strip</source>
-        <translation type="unfinished"></translation>
+        <translation>ストリップ中のライン数</translation>
     </message>
     <message>
         <source>Strip Byte Counts</source>
-        <translation type="unfinished"></translation>
+        <translation>ストリップのデータ量</translation>
     </message>
     <message>
         <source>Min Sample Value</source>
-        <translation type="unfinished"></translation>
+        <translation>最小サンプル値</translation>
     </message>
     <message>
         <source>Max Sample Value</source>
-        <translation type="unfinished"></translation>
+        <translation>最大サンプル値</translation>
     </message>
     <message>
         <source>X Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の幅の解像度</translation>
     </message>
     <message>
         <source>Y Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の高さの解像度</translation>
     </message>
     <message>
         <source>Planar Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>画像データの並び</translation>
     </message>
     <message>
         <source>Page Name</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ名</translation>
     </message>
     <message>
         <source>X Position</source>
-        <translation type="unfinished"></translation>
+        <translation>X 位置</translation>
     </message>
     <message>
         <source>Y Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Y 位置</translation>
     </message>
     <message>
         <source>Free Offsets</source>
-        <translation type="unfinished"></translation>
+        <translation>空き領域のオフセット</translation>
     </message>
     <message>
         <source>Free ByteCounts</source>
-        <translation type="unfinished"></translation>
+        <translation>空き領域のバイト数</translation>
     </message>
     <message>
         <source>Gray ResponseUnit</source>
-        <translation type="unfinished"></translation>
+        <translation>グレー応答単位</translation>
     </message>
     <message>
         <source>Gray ResponseCurve</source>
-        <translation type="unfinished"></translation>
+        <translation>グレー応答曲線</translation>
     </message>
     <message>
         <source>T4 Options</source>
-        <translation type="unfinished"></translation>
+        <translation>T4 オプション</translation>
     </message>
     <message>
         <source>T6 Options</source>
-        <translation type="unfinished"></translation>
+        <translation>T6 オプション</translation>
     </message>
     <message>
         <source>Resolution Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>解像度の単位</translation>
     </message>
     <message>
         <source>Page Number</source>
-        <translation type="unfinished"></translation>
+        <translation>ページ番号</translation>
     </message>
     <message>
         <source>Transfer Function</source>
-        <translation type="unfinished"></translation>
+        <translation>再生階調カーブ特性</translation>
     </message>
     <message>
         <source>Software</source>
-        <translation type="unfinished"></translation>
+        <translation>使用ソフトウェア名</translation>
     </message>
     <message>
         <source>Date Time</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル変更日時</translation>
     </message>
     <message>
         <source>Artist</source>
-        <translation type="unfinished"></translation>
+        <translation>作者名</translation>
     </message>
     <message>
         <source>Host Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>ホストコンピュータ</translation>
     </message>
     <message>
         <source>Predictor</source>
-        <translation type="unfinished"></translation>
+        <translation>予測子</translation>
     </message>
     <message>
         <source>White Point</source>
-        <translation type="unfinished"></translation>
+        <translation>参照白色点の色度座標値</translation>
     </message>
     <message>
         <source>Primary Chromaticities</source>
-        <translation type="unfinished"></translation>
+        <translation>原色の色度座標値</translation>
     </message>
     <message>
         <source>Color Map</source>
-        <translation type="unfinished"></translation>
+        <translation>カラーマップ</translation>
     </message>
     <message>
         <source>Halftone Hints</source>
-        <translation type="unfinished"></translation>
+        <translation>ハーフトーンヒント</translation>
     </message>
     <message>
         <source>Tile Width</source>
-        <translation type="unfinished"></translation>
+        <translation>タイルの幅</translation>
     </message>
     <message>
         <source>Tile Length</source>
-        <translation type="unfinished"></translation>
+        <translation>タイルの高さ</translation>
     </message>
     <message>
         <source>Tile Offsets</source>
-        <translation type="unfinished"></translation>
+        <translation>タイルのオフセット</translation>
     </message>
     <message>
         <source>Tile Byte Counts</source>
-        <translation type="unfinished"></translation>
+        <translation>タイルのバイト数</translation>
     </message>
     <message>
         <source>Ink Set</source>
-        <translation type="unfinished"></translation>
+        <translation>インクセット</translation>
     </message>
     <message>
         <source>Ink Names</source>
-        <translation type="unfinished"></translation>
+        <translation>インク名</translation>
     </message>
     <message>
         <source>Number of Inks</source>
-        <translation type="unfinished"></translation>
+        <translation>インク数</translation>
     </message>
     <message>
         <source>Dot Range</source>
-        <translation type="unfinished"></translation>
+        <translation>ドット範囲</translation>
     </message>
     <message>
         <source>Target Printer</source>
-        <translation type="unfinished"></translation>
+        <translation>対象プリンタ</translation>
     </message>
     <message>
         <source>Extra Samples</source>
-        <translation type="unfinished"></translation>
+        <translation>追加サンプル</translation>
     </message>
     <message>
         <source>Sample Format</source>
-        <translation type="unfinished"></translation>
+        <translation>サンプル形式</translation>
     </message>
     <message>
         <source>S Min Sample Value</source>
-        <translation type="unfinished"></translation>
+        <translation>最小サンプル値 (S)</translation>
     </message>
     <message>
         <source>S Max Sample Value</source>
-        <translation type="unfinished"></translation>
+        <translation>最大サンプル値 (S)</translation>
     </message>
     <message>
         <source>Transfer Range</source>
-        <translation type="unfinished"></translation>
+        <translation>転送範囲</translation>
     </message>
     <message>
         <source>JPEG Proc</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG 処理方式</translation>
     </message>
     <message>
         <source>JPEG Interchange Format</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG の SOI へのオフセット</translation>
     </message>
     <message>
         <source>JPEG Interchange Format Lngth</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG データのバイト数</translation>
     </message>
     <message>
         <source>JPEG Restart Interval</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG リスタート間隔</translation>
     </message>
     <message>
         <source>JPEG Lossless Predictors</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG ロスレス予測子</translation>
     </message>
     <message>
         <source>JPEG Point Transforms</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG ポイント変換</translation>
     </message>
     <message>
         <source>JPEG Q Tables</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG 量子化テーブル</translation>
     </message>
     <message>
         <source>JPEG DC Tables</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG DC テーブル</translation>
     </message>
     <message>
         <source>JPEG AC Tables</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG AC テーブル</translation>
     </message>
     <message>
         <source>YCbCr Coefficients</source>
-        <translation type="unfinished"></translation>
+        <translation>色変換マトリクス係数</translation>
     </message>
     <message>
         <source>YCbCr SubSampling</source>
-        <translation type="unfinished"></translation>
+        <translation>YCC の画素構成 (C の間引き率)</translation>
     </message>
     <message>
         <source>YCbCr Positioning</source>
-        <translation type="unfinished"></translation>
+        <translation>YCC の画素構成 (Y と C の位置)</translation>
     </message>
     <message>
         <source>Reference Black White</source>
-        <translation type="unfinished"></translation>
+        <translation>参照黒色点値と参照白色点値</translation>
     </message>
     <message>
         <source>Strip Row Counts</source>
-        <translation type="unfinished"></translation>
+        <translation>ストリップの行数</translation>
     </message>
     <message>
         <source>XMP Data</source>
-        <translation type="unfinished"></translation>
+        <translation>XMP データ</translation>
     </message>
     <message>
         <source>Image ID</source>
-        <translation type="unfinished"></translation>
+        <translation>画像 ID</translation>
     </message>
     <message>
         <source>Copyright</source>
-        <translation type="unfinished"></translation>
+        <translation>撮影著作権者</translation>
     </message>
     <message>
         <source>IPTC IIM</source>
-        <translation type="unfinished"></translation>
+        <translation>IPTC IIM</translation>
     </message>
     <message>
         <source>Photoshop</source>
-        <translation type="unfinished"></translation>
+        <translation>Photoshop</translation>
     </message>
     <message>
         <source>Exif</source>
-        <translation type="unfinished"></translation>
+        <translation>Exif</translation>
     </message>
     <message>
         <source>ICC Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>ICC プロファイル</translation>
     </message>
     <message>
         <source>Image Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>画像レイヤー</translation>
     </message>
     <message>
         <source>GPS</source>
-        <translation type="unfinished"></translation>
+        <translation>GPS</translation>
     </message>
     <message>
         <source>Time Zone Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>タイムゾーンオフセット</translation>
     </message>
     <message>
         <source>TIFF/EP StandardID</source>
-        <translation type="unfinished"></translation>
+        <translation>TIFF/EP 規格 ID</translation>
     </message>
     <message>
         <source>Image Source Data</source>
-        <translation type="unfinished"></translation>
+        <translation>画像ソースデータ</translation>
     </message>
     <message>
         <source>Print Image Matching</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントイメージマッチング</translation>
     </message>
     <message>
         <source>Maker Note Safety</source>
-        <translation type="unfinished"></translation>
+        <translation>メーカーノートの安全性</translation>
     </message>
     <message>
         <source>Unknown2 0xC6D2</source>
-        <translation type="unfinished"></translation>
+        <translation>不明2 0xC6D2</translation>
     </message>
     <message>
         <source>Unknown3 0xC6D3</source>
-        <translation type="unfinished"></translation>
+        <translation>不明3 0xC6D3</translation>
     </message>
     <message>
         <source>Exposure Time</source>
-        <translation type="unfinished"></translation>
+        <translation>露出時間</translation>
     </message>
     <message>
         <source>F Number</source>
-        <translation type="unfinished"></translation>
+        <translation>F値</translation>
     </message>
     <message>
         <source>Exposure Program</source>
-        <translation type="unfinished"></translation>
+        <translation>露出プログラム</translation>
     </message>
     <message>
         <source>Spectral Sensitivity</source>
-        <translation type="unfinished"></translation>
+        <translation>スペクトル感度</translation>
     </message>
     <message>
         <source>ISO Speed Ratings</source>
-        <translation type="unfinished"></translation>
+        <translation>ISO スピードレート</translation>
     </message>
     <message>
         <source>OECF</source>
-        <translation type="unfinished"></translation>
+        <translation>光電変換関数</translation>
     </message>
     <message>
         <source>Self Timer Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>セルフタイマーモード</translation>
     </message>
     <message>
         <source>Sensitivity Type</source>
-        <translation type="unfinished"></translation>
+        <translation>感度種別</translation>
     </message>
     <message>
         <source>SOS (Standard Output Sensitivity)</source>
-        <translation type="unfinished"></translation>
+        <translation>標準出力感度 (SOS)</translation>
     </message>
     <message>
         <source>REI (Recommended Exposure Index)</source>
-        <translation type="unfinished"></translation>
+        <translation>推奨露光指数 (REI)</translation>
     </message>
     <message>
         <source>ISO Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>ISO スピード</translation>
     </message>
     <message>
         <source>ISO Speed Latitude yyy</source>
-        <translation type="unfinished"></translation>
+        <translation>ISO スピードラチチュード yyy</translation>
     </message>
     <message>
         <source>ISO Speed Latitude zzz</source>
-        <translation type="unfinished"></translation>
+        <translation>ISO スピードラチチュード zzz</translation>
     </message>
     <message>
         <source>Exif Version</source>
-        <translation type="unfinished"></translation>
+        <translation>Exif バージョン</translation>
     </message>
     <message>
         <source>Date Time Original</source>
-        <translation type="unfinished"></translation>
+        <translation>撮影日時</translation>
     </message>
     <message>
         <source>Date Time Digitized</source>
-        <translation type="unfinished"></translation>
+        <translation>デジタル化日時</translation>
     </message>
     <message>
         <source>Google Plus Upload Code</source>
-        <translation type="unfinished"></translation>
+        <translation>Google Plus アップロードコード</translation>
     </message>
     <message>
         <source>Offset Time</source>
-        <translation type="unfinished"></translation>
+        <translation>時差 (ファイル変更日時)</translation>
     </message>
     <message>
         <source>Offset Time Original</source>
-        <translation type="unfinished"></translation>
+        <translation>時差 (撮影日時)</translation>
     </message>
     <message>
         <source>Offset Time Digitized</source>
-        <translation type="unfinished"></translation>
+        <translation>時差 (デジタル化日時)</translation>
     </message>
     <message>
         <source>Components Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>各コンポーネントの意味</translation>
     </message>
     <message>
         <source>Compressed Bits per Pixel</source>
-        <translation type="unfinished"></translation>
+        <translation>画像圧縮モード</translation>
     </message>
     <message>
         <source>Shutter Speed Value</source>
-        <translation type="unfinished"></translation>
+        <translation>シャッタースピード</translation>
     </message>
     <message>
         <source>Aperture Value</source>
-        <translation type="unfinished"></translation>
+        <translation>絞り値</translation>
     </message>
     <message>
         <source>Brightness Value</source>
-        <translation type="unfinished"></translation>
+        <translation>輝度値</translation>
     </message>
     <message>
         <source>Exposure Bias Value</source>
-        <translation type="unfinished"></translation>
+        <translation>露光補正値</translation>
     </message>
     <message>
         <source>Max Aperture Value</source>
-        <translation type="unfinished"></translation>
+        <translation>レンズ最小F値</translation>
     </message>
     <message>
         <source>Subject Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>被写体距離</translation>
     </message>
     <message>
         <source>Metering Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>測光方式</translation>
     </message>
     <message>
         <source>Light Source</source>
-        <translation type="unfinished"></translation>
+        <translation>光源</translation>
     </message>
     <message>
         <source>Flash</source>
-        <translation type="unfinished"></translation>
+        <translation>フラッシュ</translation>
     </message>
     <message>
         <source>Focal Length</source>
-        <translation type="unfinished"></translation>
+        <translation>レンズ焦点距離</translation>
     </message>
     <message>
         <source>Subject Area</source>
-        <translation type="unfinished"></translation>
+        <translation>被写体領域</translation>
     </message>
     <message>
         <source>Maker Note</source>
-        <translation type="unfinished"></translation>
+        <translation>メーカーノート</translation>
     </message>
     <message>
         <source>User Comment</source>
-        <translation type="unfinished"></translation>
+        <translation>ユーザーコメント</translation>
     </message>
     <message>
         <source>Subsecond Time</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル変更日時の秒以下</translation>
     </message>
     <message>
         <source>Subsecond Time Original</source>
-        <translation type="unfinished"></translation>
+        <translation>撮影日時の秒以下</translation>
     </message>
     <message>
         <source>Subsecond Time Digitized</source>
-        <translation type="unfinished"></translation>
+        <translation>デジタル化日時の秒以下</translation>
     </message>
     <message>
         <source>Temperature</source>
-        <translation type="unfinished"></translation>
+        <translation>温度</translation>
     </message>
     <message>
         <source>Humidity</source>
-        <translation type="unfinished"></translation>
+        <translation>湿度</translation>
     </message>
     <message>
         <source>Pressure</source>
-        <translation type="unfinished"></translation>
+        <translation>気圧</translation>
     </message>
     <message>
         <source>Water Depth</source>
-        <translation type="unfinished"></translation>
+        <translation>水深</translation>
     </message>
     <message>
         <source>Acceleration</source>
-        <translation type="unfinished"></translation>
+        <translation>加速度</translation>
     </message>
     <message>
         <source>Camera Elevation Angle</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラの仰俯角</translation>
     </message>
     <message>
         <source>Flashpix Version</source>
-        <translation type="unfinished"></translation>
+        <translation>対応 Flashpix バージョン</translation>
     </message>
     <message>
         <source>Color Space</source>
-        <translation type="unfinished"></translation>
+        <translation>色空間情報</translation>
     </message>
     <message>
         <source>Pixel X Dimension</source>
-        <translation type="unfinished"></translation>
+        <translation>実効画像の幅</translation>
     </message>
     <message>
         <source>Pixel Y Dimension</source>
-        <translation type="unfinished"></translation>
+        <translation>実効画像の高さ</translation>
     </message>
     <message>
         <source>Related Sound File</source>
-        <translation type="unfinished"></translation>
+        <translation>関連音声ファイル</translation>
     </message>
     <message>
         <source>DCF Interoperability Data</source>
-        <translation type="unfinished"></translation>
+        <translation>互換性 IFD へのポインタ</translation>
     </message>
     <message>
         <source>Flash Energy</source>
-        <translation type="unfinished"></translation>
+        <translation>フラッシュ強度</translation>
     </message>
     <message>
         <source>Spatial Frequency Response</source>
-        <translation type="unfinished"></translation>
+        <translation>空間周波数応答</translation>
     </message>
     <message>
         <source>Focal Plane X Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>焦点面の幅の解像度</translation>
     </message>
     <message>
         <source>Focal Plane Y Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>焦点面の高さの解像度</translation>
     </message>
     <message>
         <source>Focal Plane Resolution Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>焦点面解像度単位</translation>
     </message>
     <message>
         <source>Subject Location</source>
-        <translation type="unfinished"></translation>
+        <translation>被写体位置</translation>
     </message>
     <message>
         <source>Exposure Index</source>
-        <translation type="unfinished"></translation>
+        <translation>露出インデックス</translation>
     </message>
     <message>
         <source>Sensing Method</source>
-        <translation type="unfinished"></translation>
+        <translation>センサー方式</translation>
     </message>
     <message>
         <source>File Source</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルソース</translation>
     </message>
     <message>
         <source>Scene Type</source>
-        <translation type="unfinished"></translation>
+        <translation>シーンタイプ</translation>
     </message>
     <message>
         <source>CFA Pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>CFA パターン</translation>
     </message>
     <message>
         <source>Custom Rendered</source>
-        <translation type="unfinished"></translation>
+        <translation>個別画像処理</translation>
     </message>
     <message>
         <source>Exposure Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>露出モード</translation>
     </message>
     <message>
         <source>White Balance</source>
-        <translation type="unfinished"></translation>
+        <translation>ホワイトバランス</translation>
     </message>
     <message>
         <source>Digital Zoom Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>デジタルズーム倍率</translation>
     </message>
     <message>
         <source>Focal Length in 35mm Film</source>
-        <translation type="unfinished"></translation>
+        <translation>35mm 換算レンズ焦点距離</translation>
     </message>
     <message>
         <source>Scene Capture Type</source>
-        <translation type="unfinished"></translation>
+        <translation>撮影シーンタイプ</translation>
     </message>
     <message>
         <source>Gain Control</source>
-        <translation type="unfinished"></translation>
+        <translation>ゲイン制御</translation>
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>撮影コントラスト</translation>
     </message>
     <message>
         <source>Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>撮影彩度</translation>
     </message>
     <message>
         <source>Sharpness</source>
-        <translation type="unfinished"></translation>
+        <translation>撮影シャープネス</translation>
     </message>
     <message>
         <source>Device Setting Description</source>
-        <translation type="unfinished"></translation>
+        <translation>撮影条件記述情報</translation>
     </message>
     <message>
         <source>Subject Distance Range</source>
-        <translation type="unfinished"></translation>
+        <translation>被写体距離レンジ</translation>
     </message>
     <message>
         <source>Image Unique ID</source>
-        <translation type="unfinished"></translation>
+        <translation>画像固有 ID</translation>
     </message>
     <message>
         <source>Camera Owner Name</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラ所有者名</translation>
     </message>
     <message>
         <source>Body Serial Number</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラシリアル番号</translation>
     </message>
     <message>
         <source>Lens Specification</source>
-        <translation type="unfinished"></translation>
+        <translation>レンズの仕様情報</translation>
     </message>
     <message>
         <source>Lens Make</source>
-        <translation type="unfinished"></translation>
+        <translation>レンズのメーカー名</translation>
     </message>
     <message>
         <source>Lens Model</source>
-        <translation type="unfinished"></translation>
+        <translation>レンズのモデル名</translation>
     </message>
     <message>
         <source>Lens Serial Number</source>
-        <translation type="unfinished"></translation>
+        <translation>レンズシリアル番号</translation>
     </message>
     <message>
         <source>Image Title</source>
-        <translation type="unfinished"></translation>
+        <translation>画像タイトル (Exif)</translation>
     </message>
     <message>
         <source>Photographer</source>
-        <translation type="unfinished"></translation>
+        <translation>撮影者</translation>
     </message>
     <message>
         <source>Image Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>画像編集者</translation>
     </message>
     <message>
         <source>Camera Firmware</source>
-        <translation type="unfinished"></translation>
+        <translation>カメラファームウェア</translation>
     </message>
     <message>
         <source>RAW Developing Software</source>
-        <translation type="unfinished"></translation>
+        <translation>RAW 現像ソフトウェア</translation>
     </message>
     <message>
         <source>Image Editing Software</source>
-        <translation type="unfinished"></translation>
+        <translation>画像編集ソフトウェア</translation>
     </message>
     <message>
         <source>Metadata Editing Software</source>
-        <translation type="unfinished"></translation>
+        <translation>メタデータ編集ソフトウェア</translation>
     </message>
     <message>
         <source>Composite Image</source>
-        <translation type="unfinished"></translation>
+        <translation>合成画像</translation>
     </message>
     <message>
         <source>Source Image Number of Composite Image</source>
-        <translation type="unfinished"></translation>
+        <translation>合成画像の元画像数</translation>
     </message>
     <message>
         <source>Source Exposure Times of Composite Image</source>
-        <translation type="unfinished"></translation>
+        <translation>合成画像の元画像の露出時間</translation>
     </message>
     <message>
         <source>Gamma</source>
-        <translation type="unfinished"></translation>
+        <translation>再生ガンマ</translation>
     </message>
     <message>
         <source>Interoperability Index</source>
-        <translation type="unfinished"></translation>
+        <translation>互換性識別子</translation>
     </message>
     <message>
         <source>Interoperability Version</source>
-        <translation type="unfinished"></translation>
+        <translation>互換性バージョン</translation>
     </message>
     <message>
         <source>Related Image File Format</source>
-        <translation type="unfinished"></translation>
+        <translation>関連画像ファイル形式</translation>
     </message>
     <message>
         <source>Related Image Width</source>
-        <translation type="unfinished"></translation>
+        <translation>関連画像の幅</translation>
     </message>
     <message>
         <source>Related Image Length</source>
-        <translation type="unfinished"></translation>
+        <translation>関連画像の高さ</translation>
     </message>
     <message>
         <source>GPS Version</source>
-        <translation type="unfinished"></translation>
+        <translation>GPS タグのバージョン</translation>
     </message>
     <message>
         <source>GPS Latitude Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>北緯 (N) または南緯 (S)</translation>
     </message>
     <message>
         <source>GPS Latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>緯度</translation>
     </message>
     <message>
         <source>GPS Longitude Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>東経 (E) または西経 (W)</translation>
     </message>
     <message>
         <source>GPS Longitude</source>
-        <translation type="unfinished"></translation>
+        <translation>経度</translation>
     </message>
     <message>
         <source>GPS Altitude Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>高度の基準</translation>
     </message>
     <message>
         <source>GPS Altitude</source>
-        <translation type="unfinished"></translation>
+        <translation>高度</translation>
     </message>
     <message>
         <source>GPS Time Stamp</source>
-        <translation type="unfinished"></translation>
+        <translation>GPS の時間 (原子時計)</translation>
     </message>
     <message>
         <source>GPS Satellites</source>
-        <translation type="unfinished"></translation>
+        <translation>測位に使用した GPS 衛星</translation>
     </message>
     <message>
         <source>GPS Status</source>
-        <translation type="unfinished"></translation>
+        <translation>GPS 受信機の状態</translation>
     </message>
     <message>
         <source>GPS Measure Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>GPS の測位方法</translation>
     </message>
     <message>
         <source>GPS DOP</source>
-        <translation type="unfinished"></translation>
+        <translation>測位の信頼性</translation>
     </message>
     <message>
         <source>GPS Speed Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>速度の単位</translation>
     </message>
     <message>
         <source>GPS Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>速度</translation>
     </message>
     <message>
         <source>GPS Track Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>進行方向の基準</translation>
     </message>
     <message>
         <source>GPS Track</source>
-        <translation type="unfinished"></translation>
+        <translation>進行方向</translation>
     </message>
     <message>
         <source>GPS Image Direction Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>撮影した画像の方向の基準</translation>
     </message>
     <message>
         <source>GPS Image Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>撮影した画像の方向</translation>
     </message>
     <message>
         <source>GPS Map Datum</source>
-        <translation type="unfinished"></translation>
+        <translation>測位に用いた地図データ</translation>
     </message>
     <message>
         <source>GPS Destination Latitude Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>目的地の北緯 (N) または南緯 (S)</translation>
     </message>
     <message>
         <source>GPS Destination Latitude</source>
-        <translation type="unfinished"></translation>
+        <translation>目的地の緯度</translation>
     </message>
     <message>
         <source>GPS Destination Longitude Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>目的地の東経 (E) または西経 (W)</translation>
     </message>
     <message>
         <source>GPS Destination Longitude</source>
-        <translation type="unfinished"></translation>
+        <translation>目的地の経度</translation>
     </message>
     <message>
         <source>GPS Destination Bearing Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>目的地の方角の基準</translation>
     </message>
     <message>
         <source>GPS Destination Bearing</source>
-        <translation type="unfinished"></translation>
+        <translation>目的地の方角</translation>
     </message>
     <message>
         <source>GPS Destination Distance Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>目的地までの距離の単位</translation>
     </message>
     <message>
         <source>GPS Destination Distance</source>
-        <translation type="unfinished"></translation>
+        <translation>目的地までの距離</translation>
     </message>
     <message>
         <source>GPS Processing Method</source>
-        <translation type="unfinished"></translation>
+        <translation>測位方式の名称</translation>
     </message>
     <message>
         <source>GPS Area Information</source>
-        <translation type="unfinished"></translation>
+        <translation>測位地点の名称</translation>
     </message>
     <message>
         <source>GPS Date Stamp</source>
-        <translation type="unfinished"></translation>
+        <translation>GPS 日付</translation>
     </message>
     <message>
         <source>GPS Differential</source>
-        <translation type="unfinished"></translation>
+        <translation>GPS 補正測位</translation>
     </message>
     <message>
         <source>GPS HPositioning Error</source>
-        <translation type="unfinished"></translation>
+        <translation>水平方向測位誤差</translation>
     </message>
     <message>
         <source>Uncompressed</source>
-        <translation type="unfinished"></translation>
+        <translation>非圧縮</translation>
     </message>
     <message>
         <source>LZW</source>
-        <translation type="unfinished"></translation>
+        <translation>LZW</translation>
     </message>
     <message>
         <source>JPEG Compression</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG 圧縮</translation>
     </message>
     <message>
         <source>NEXT</source>
-        <translation type="unfinished"></translation>
+        <translation>NeXT</translation>
     </message>
     <message>
         <source>PackBits</source>
-        <translation type="unfinished"></translation>
+        <translation>PackBits</translation>
     </message>
     <message>
         <source>Grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>グレースケール</translation>
     </message>
     <message>
         <source>RGB</source>
-        <translation type="unfinished"></translation>
+        <translation>RGB</translation>
     </message>
     <message>
         <source>Palette Color</source>
-        <translation type="unfinished"></translation>
+        <translation>パレットカラー</translation>
     </message>
     <message>
         <source>Transparency Mask</source>
-        <translation type="unfinished"></translation>
+        <translation>透明マスク</translation>
     </message>
     <message>
         <source>CMYK</source>
-        <translation type="unfinished"></translation>
+        <translation>CMYK</translation>
     </message>
     <message>
         <source>YCbCr</source>
-        <translation type="unfinished"></translation>
+        <translation>YCbCr</translation>
     </message>
     <message>
         <source>Lab</source>
-        <translation type="unfinished"></translation>
+        <translation>Lab</translation>
     </message>
     <message>
         <source>1 Top-Left</source>
-        <translation type="unfinished"></translation>
+        <translation>1 左上</translation>
     </message>
     <message>
         <source>2 Top-Right</source>
-        <translation type="unfinished"></translation>
+        <translation>2 右上</translation>
     </message>
     <message>
         <source>3 Bottom-Right</source>
-        <translation type="unfinished"></translation>
+        <translation>3 右下</translation>
     </message>
     <message>
         <source>4 Bottom-Left</source>
-        <translation type="unfinished"></translation>
+        <translation>4 左下</translation>
     </message>
     <message>
         <source>5 Left-Top</source>
-        <translation type="unfinished"></translation>
+        <translation>5 左上 (回転)</translation>
     </message>
     <message>
         <source>6 Right-Top</source>
-        <translation type="unfinished"></translation>
+        <translation>6 右上 (回転)</translation>
     </message>
     <message>
         <source>7 Right-Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>7 右下 (回転)</translation>
     </message>
     <message>
         <source>8 Left-Bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>8 左下 (回転)</translation>
     </message>
     <message>
         <source>Chunky Format</source>
-        <translation type="unfinished"></translation>
+        <translation>点順次フォーマット</translation>
     </message>
     <message>
         <source>Planar Format</source>
-        <translation type="unfinished"></translation>
+        <translation>面順次フォーマット</translation>
     </message>
     <message>
         <source>inches</source>
-        <translation type="unfinished"></translation>
+        <translation>インチ</translation>
     </message>
     <message>
         <source>centimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>センチメートル</translation>
     </message>
     <message>
         <source>Non</source>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
     </message>
     <message>
         <source>Horizontal differencing</source>
-        <translation type="unfinished"></translation>
+        <translation>水平差分</translation>
     </message>
     <message>
         <source>Floating point horizontal differencing</source>
-        <translation type="unfinished"></translation>
+        <translation>浮動小数点水平差分</translation>
     </message>
     <message>
         <source>Centered</source>
-        <translation type="unfinished"></translation>
+        <translation>中心</translation>
     </message>
     <message>
         <source>Co-sited</source>
-        <translation type="unfinished"></translation>
+        <translation>一致</translation>
     </message>
     <message>
         <source>Unsafe</source>
-        <translation type="unfinished"></translation>
+        <translation>安全でない</translation>
     </message>
     <message>
         <source>Safe</source>
-        <translation type="unfinished"></translation>
+        <translation>安全</translation>
     </message>
     <message>
         <source>Not Defined</source>
-        <translation type="unfinished"></translation>
+        <translation>未定義</translation>
     </message>
     <message>
         <source>Manual</source>
-        <translation type="unfinished"></translation>
+        <translation>マニュアル</translation>
     </message>
     <message>
         <source>Normal Program</source>
-        <translation type="unfinished"></translation>
+        <translation>ノーマルプログラム</translation>
     </message>
     <message>
         <source>Aperture Priority</source>
-        <translation type="unfinished"></translation>
+        <translation>絞り優先</translation>
     </message>
     <message>
         <source>Shutter Priority</source>
-        <translation type="unfinished"></translation>
+        <translation>シャッター優先</translation>
     </message>
     <message>
         <source>Creative Program</source>
-        <translation type="unfinished"></translation>
+        <translation>クリエイティブプログラム (被写界深度優先)</translation>
     </message>
     <message>
         <source>Action Program</source>
-        <translation type="unfinished"></translation>
+        <translation>アクションプログラム (シャッタースピード優先)</translation>
     </message>
     <message>
         <source>Portrait Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>ポートレートモード</translation>
     </message>
     <message>
         <source>Landscape Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>風景モード</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>不明</translation>
     </message>
     <message>
         <source>SOS and REI</source>
-        <translation type="unfinished"></translation>
+        <translation>SOS と REI</translation>
     </message>
     <message>
         <source>SOS and ISO Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>SOS と ISO スピード</translation>
     </message>
     <message>
         <source>REI and ISO Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>REI と ISO スピード</translation>
     </message>
     <message>
         <source>SOS, REI and ISO Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>SOS、REI と ISO スピード</translation>
     </message>
     <message>
         <source>Average</source>
-        <translation type="unfinished"></translation>
+        <translation>平均</translation>
     </message>
     <message>
         <source>Center Weighted Average</source>
-        <translation type="unfinished"></translation>
+        <translation>中央重点</translation>
     </message>
     <message>
         <source>Spot</source>
-        <translation type="unfinished"></translation>
+        <translation>スポット</translation>
     </message>
     <message>
         <source>Multi-Spot</source>
-        <translation type="unfinished"></translation>
+        <translation>マルチスポット</translation>
     </message>
     <message>
         <source>Pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>分割測光</translation>
     </message>
     <message>
         <source>Partial</source>
-        <translation type="unfinished"></translation>
+        <translation>部分測光</translation>
     </message>
     <message>
         <source>Other</source>
-        <translation type="unfinished"></translation>
+        <translation>その他</translation>
     </message>
     <message>
         <source>Daylight</source>
-        <translation type="unfinished"></translation>
+        <translation>昼光</translation>
     </message>
     <message>
         <source>Fluorescent</source>
-        <translation type="unfinished"></translation>
+        <translation>蛍光灯</translation>
     </message>
     <message>
         <source>Tungsten</source>
-        <translation type="unfinished"></translation>
+        <translation>タングステン (白熱灯)</translation>
     </message>
     <message>
         <source>Fine Weather</source>
-        <translation type="unfinished"></translation>
+        <translation>晴天</translation>
     </message>
     <message>
         <source>Cloudy Weather</source>
-        <translation type="unfinished"></translation>
+        <translation>曇天</translation>
     </message>
     <message>
         <source>Shade</source>
-        <translation type="unfinished"></translation>
+        <translation>日陰</translation>
     </message>
     <message>
         <source>Daylight Fluorescent</source>
-        <translation type="unfinished"></translation>
+        <translation>昼光色蛍光灯</translation>
     </message>
     <message>
         <source>Standard Light A</source>
-        <translation type="unfinished"></translation>
+        <translation>標準光 A</translation>
     </message>
     <message>
         <source>Standard Light B</source>
-        <translation type="unfinished"></translation>
+        <translation>標準光 B</translation>
     </message>
     <message>
         <source>Standard Light C</source>
-        <translation type="unfinished"></translation>
+        <translation>標準光 C</translation>
     </message>
     <message>
         <source>D55</source>
-        <translation type="unfinished"></translation>
+        <translation>D55</translation>
     </message>
     <message>
         <source>D65</source>
-        <translation type="unfinished"></translation>
+        <translation>D65</translation>
     </message>
     <message>
         <source>D75</source>
-        <translation type="unfinished"></translation>
+        <translation>D75</translation>
     </message>
     <message>
         <source>D50</source>
-        <translation type="unfinished"></translation>
+        <translation>D50</translation>
     </message>
     <message>
         <source>ISO Studio Tungsten</source>
-        <translation type="unfinished"></translation>
+        <translation>ISO スタジオタングステン</translation>
     </message>
     <message>
         <source>Other Light Source</source>
-        <translation type="unfinished"></translation>
+        <translation>その他の光源</translation>
     </message>
     <message>
         <source>Day White Fluorescent</source>
-        <translation type="unfinished"></translation>
+        <translation>昼白色蛍光灯</translation>
     </message>
     <message>
         <source>Cool White Fluorescent</source>
-        <translation type="unfinished"></translation>
+        <translation>白色蛍光灯</translation>
     </message>
     <message>
         <source>White Fluorescent</source>
-        <translation type="unfinished"></translation>
+        <translation>温白色蛍光灯</translation>
     </message>
     <message>
         <source>Day White Fluorescent 0230</source>
-        <translation type="unfinished"></translation>
+        <translation>昼白色蛍光灯</translation>
     </message>
     <message>
         <source>Cool White Fluorescent 0230</source>
-        <translation type="unfinished"></translation>
+        <translation>白色蛍光灯</translation>
     </message>
     <message>
         <source>White Fluorescent 0230</source>
-        <translation type="unfinished"></translation>
+        <translation>温白色蛍光灯</translation>
     </message>
     <message>
         <source>Warm White Fluorescent</source>
-        <translation type="unfinished"></translation>
+        <translation>電球色蛍光灯</translation>
     </message>
     <message>
         <source>Did not Fire</source>
-        <translation type="unfinished"></translation>
+        <translation>発光せず</translation>
     </message>
     <message>
         <source>Fired</source>
-        <translation type="unfinished"></translation>
+        <translation>発光</translation>
     </message>
     <message>
         <source>Fired, Return Light not Detected</source>
-        <translation type="unfinished"></translation>
+        <translation>発光、反射光を検出せず</translation>
     </message>
     <message>
         <source>Fired, Return Light Detected</source>
-        <translation type="unfinished"></translation>
+        <translation>発光、反射光を検出</translation>
     </message>
     <message>
         <source>Fired, Compulsory Flash Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>発光、強制発光モード</translation>
     </message>
     <message>
         <source>Fired, Compulsory Flash Mode, Return Light not Detected</source>
-        <translation type="unfinished"></translation>
+        <translation>発光、強制発光モード、反射光を検出せず</translation>
     </message>
     <message>
         <source>Fired, Compulsory Flash Mode, Return Light Detected</source>
-        <translation type="unfinished"></translation>
+        <translation>発光、強制発光モード、反射光を検出</translation>
     </message>
     <message>
         <source>Did not Fire, Compulsory Flash Suppression Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>発光せず、強制非発光モード</translation>
     </message>
     <message>
         <source>Did not Fire, Auto Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>発光せず、オートモード</translation>
     </message>
     <message>
         <source>Fired, Auto Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>発光、オートモード</translation>
     </message>
     <message>
         <source>Fired, Auto Mode, Return Light not Detected</source>
-        <translation type="unfinished"></translation>
+        <translation>発光、オートモード、反射光を検出せず</translation>
     </message>
     <message>
         <source>Fired, Auto Mode, Return Light Detected</source>
-        <translation type="unfinished"></translation>
+        <translation>発光、オートモード、反射光を検出</translation>
     </message>
     <message>
         <source>No Flash Function</source>
-        <translation type="unfinished"></translation>
+        <translation>フラッシュ機能なし</translation>
     </message>
     <message>
         <source>Fired, Red-eye Reduction Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>発光、赤目軽減モード</translation>
     </message>
     <message>
         <source>Fired, Red-eye Reduction Mode, Return Light not Detected</source>
-        <translation type="unfinished"></translation>
+        <translation>発光、赤目軽減モード、反射光を検出せず</translation>
     </message>
     <message>
         <source>Fired, Red-eye Reduction Mode, Return Light Detected</source>
-        <translation type="unfinished"></translation>
+        <translation>発光、赤目軽減モード、反射光を検出</translation>
     </message>
     <message>
         <source>Fired, Compulsory Flash Mode, Red-eye Reduction Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>発光、強制発光モード、赤目軽減モード</translation>
     </message>
     <message>
         <source>Fired, Compulsory Flash Mode, Red-eye Reduction Mode, Return Light not Detected</source>
-        <translation type="unfinished"></translation>
+        <translation>発光、強制発光モード、赤目軽減モード、反射光を検出せず</translation>
     </message>
     <message>
         <source>Fired, Compulsory Flash Mode, Red-eye Reduction Mode, Return Light Detected</source>
-        <translation type="unfinished"></translation>
+        <translation>発光、強制発光モード、赤目軽減モード、反射光を検出</translation>
     </message>
     <message>
         <source>Fired, Auto Mode, Red-eye Reduction Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>発光、オートモード、赤目軽減モード</translation>
     </message>
     <message>
         <source>Fired, Auto Mode, Return Light not Detected, Red-eye Reduction Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>発光、オートモード、反射光を検出せず、赤目軽減モード</translation>
     </message>
     <message>
         <source>Fired, Auto Mode, Return Light Detected, Red-eye Reduction Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>発光、オートモード、反射光を検出、赤目軽減モード</translation>
     </message>
     <message>
         <source>sRGB</source>
-        <translation type="unfinished"></translation>
+        <translation>sRGB</translation>
     </message>
     <message>
         <source>Uncalibrated</source>
-        <translation type="unfinished"></translation>
+        <translation>未補正</translation>
     </message>
     <message>
         <source>One-Chip Color Area Sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>単板式カラーセンサー</translation>
     </message>
     <message>
         <source>Two-Chip Color Area Sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>2 板式カラーセンサー</translation>
     </message>
     <message>
         <source>Three-Chip Color Area Sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>3 板式カラーセンサー</translation>
     </message>
     <message>
         <source>Color Sequential Area Sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>色順次カラーセンサー</translation>
     </message>
     <message>
         <source>Trilinear Sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>3 線リニアセンサー</translation>
     </message>
     <message>
         <source>Color Sequential Linear Sensor</source>
-        <translation type="unfinished"></translation>
+        <translation>色順次リニアセンサー</translation>
     </message>
     <message>
         <source>Others</source>
-        <translation type="unfinished"></translation>
+        <translation>その他</translation>
     </message>
     <message>
         <source>Scanner of Transparent Type</source>
-        <translation type="unfinished"></translation>
+        <translation>透過型スキャナ</translation>
     </message>
     <message>
         <source>Scanner of Reflex Type</source>
-        <translation type="unfinished"></translation>
+        <translation>反射型スキャナ</translation>
     </message>
     <message>
         <source>DSC</source>
-        <translation type="unfinished"></translation>
+        <translation>デジタルスチルカメラ</translation>
     </message>
     <message>
         <source>Directly Photographed Image</source>
-        <translation type="unfinished"></translation>
+        <translation>直接撮影された画像</translation>
     </message>
     <message>
         <source>Normal Process</source>
-        <translation type="unfinished"></translation>
+        <translation>通常処理</translation>
     </message>
     <message>
         <source>Custom Process</source>
-        <translation type="unfinished"></translation>
+        <translation>特殊処理</translation>
     </message>
     <message>
         <source>Auto Exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>自動露出</translation>
     </message>
     <message>
         <source>Manual Exposure</source>
-        <translation type="unfinished"></translation>
+        <translation>マニュアル露出</translation>
     </message>
     <message>
         <source>Auto Bracket</source>
-        <translation type="unfinished"></translation>
+        <translation>オートブラケット</translation>
     </message>
     <message>
         <source>Auto White Balance</source>
-        <translation type="unfinished"></translation>
+        <translation>オートホワイトバランス</translation>
     </message>
     <message>
         <source>Manual White Balance</source>
-        <translation type="unfinished"></translation>
+        <translation>マニュアルホワイトバランス</translation>
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>標準</translation>
     </message>
     <message>
         <source>Landscape</source>
-        <translation type="unfinished"></translation>
+        <translation>風景</translation>
     </message>
     <message>
         <source>Portrait</source>
-        <translation type="unfinished"></translation>
+        <translation>人物</translation>
     </message>
     <message>
         <source>Night Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>夜景</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>なし</translation>
     </message>
     <message>
         <source>Low Gain Up</source>
-        <translation type="unfinished"></translation>
+        <translation>低ゲインアップ</translation>
     </message>
     <message>
         <source>High Gain Up</source>
-        <translation type="unfinished"></translation>
+        <translation>高ゲインアップ</translation>
     </message>
     <message>
         <source>Low Gain Down</source>
-        <translation type="unfinished"></translation>
+        <translation>低ゲインダウン</translation>
     </message>
     <message>
         <source>High Gain Down</source>
-        <translation type="unfinished"></translation>
+        <translation>高ゲインダウン</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>標準</translation>
     </message>
     <message>
         <source>Soft</source>
-        <translation type="unfinished"></translation>
+        <translation>軟調</translation>
     </message>
     <message>
         <source>Hard</source>
-        <translation type="unfinished"></translation>
+        <translation>硬調</translation>
     </message>
     <message>
         <source>Low Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>低彩度</translation>
     </message>
     <message>
         <source>High Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>高彩度</translation>
     </message>
     <message>
         <source>Soft Sharpness</source>
-        <translation type="unfinished"></translation>
+        <translation>弱</translation>
     </message>
     <message>
         <source>Hard Sharpness</source>
-        <translation type="unfinished"></translation>
+        <translation>強</translation>
     </message>
     <message>
         <source>Macro</source>
-        <translation type="unfinished"></translation>
+        <translation>マクロ</translation>
     </message>
     <message>
         <source>Close View</source>
-        <translation type="unfinished"></translation>
+        <translation>近景</translation>
     </message>
     <message>
         <source>Distant View</source>
-        <translation type="unfinished"></translation>
+        <translation>遠景</translation>
     </message>
     <message>
         <source>Non-Composite Image</source>
-        <translation type="unfinished"></translation>
+        <translation>非合成画像</translation>
     </message>
     <message>
         <source>General Composite Image</source>
-        <translation type="unfinished"></translation>
+        <translation>一般合成画像</translation>
     </message>
     <message>
         <source>Composite Image Captured When Shooting Reserved</source>
-        <translation type="unfinished"></translation>
+        <translation>撮影時合成画像</translation>
     </message>
     <message>
         <source>YCbCr 4:2:2</source>
-        <translation type="unfinished"></translation>
+        <translation>YCbCr 4:2:2</translation>
     </message>
     <message>
         <source>YCbCr 4:2:0</source>
-        <translation type="unfinished"></translation>
+        <translation>YCbCr 4:2:0</translation>
     </message>
     <message>
         <source>JFIF Version</source>
-        <translation type="unfinished"></translation>
+        <translation>JFIF バージョン</translation>
     </message>
     <message>
         <source>Density Unit</source>
-        <translation type="unfinished"></translation>
+        <translation>密度単位</translation>
     </message>
     <message>
         <source>X Density</source>
-        <translation type="unfinished"></translation>
+        <translation>水平密度</translation>
     </message>
     <message>
         <source>Y Density</source>
-        <translation type="unfinished"></translation>
+        <translation>垂直密度</translation>
     </message>
     <message>
         <source>Thumbnail Width</source>
-        <translation type="unfinished"></translation>
+        <translation>サムネイルの幅</translation>
     </message>
     <message>
         <source>Thumbnail Height</source>
-        <translation type="unfinished"></translation>
+        <translation>サムネイルの高さ</translation>
     </message>
     <message>
         <source>No Units</source>
-        <translation type="unfinished"></translation>
+        <translation>単位なし</translation>
     </message>
     <message>
         <source>Dots per inch</source>
-        <translation type="unfinished"></translation>
+        <translation>ドット/インチ</translation>
     </message>
     <message>
         <source>Dots per cm</source>
-        <translation type="unfinished"></translation>
+        <translation>ドット/cm</translation>
     </message>
     <message>
         <source>Little Endian</source>
-        <translation type="unfinished"></translation>
+        <translation>リトルエンディアン</translation>
     </message>
     <message>
         <source>Big Endian</source>
-        <translation type="unfinished"></translation>
+        <translation>ビッグエンディアン</translation>
     </message>
     <message>
         <source>Photographic Sensitivity</source>
-        <translation type="unfinished"></translation>
+        <translation>撮影感度</translation>
     </message>
     <message>
         <source>above sea level</source>
-        <translation type="unfinished"></translation>
+        <translation>(海抜)</translation>
     </message>
     <message>
         <source>below sea level</source>
-        <translation type="unfinished"></translation>
+        <translation>(海面下)</translation>
     </message>
 </context>
 <context>
@@ -2434,383 +2434,383 @@
     <name>Localizable</name>
     <message>
         <source>Save Completed:</source>
-        <translation type="unfinished"></translation>
+        <translation>保存が完了しました: %1</translation>
     </message>
     <message>
         <source>Save a file Failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを保存できませんでした。（%1）</translation>
     </message>
     <message>
         <source>Save files Failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを保存できませんでした。（%1 ファイル）</translation>
     </message>
     <message>
         <source>LocalST_ImagesWindowTitle</source>
-        <translation type="unfinished"></translation>
+        <translation>%1（%2 枚）</translation>
     </message>
     <message>
         <source>The document has unsaved changes. Do you want to save the changes before closing?</source>
-        <translation type="unfinished"></translation>
+        <translation>書類“%1”には保存されていない変更があります。閉じる前に変更を保存しますか?</translation>
     </message>
     <message>
         <source>Could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1”を開けませんでした。</translation>
     </message>
     <message>
         <source>You are opening multiple files.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 個のファイルを開こうとしています。</translation>
     </message>
     <message>
         <source>Loading files</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 個のファイルを読み込み中...</translation>
     </message>
     <message>
         <source>%@ / %lu</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 / %2</translation>
     </message>
     <message>
         <source>How would you like to open them?</source>
-        <translation type="unfinished"></translation>
+        <translation>どのように開きますか?</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Don&apos;t Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存しない</translation>
     </message>
     <message>
         <source>Open Files</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを開く</translation>
     </message>
     <message>
         <source>Preparing...</source>
-        <translation type="unfinished"></translation>
+        <translation>準備中...</translation>
     </message>
     <message>
         <source>A date would leave the range from 0001 to 9999.</source>
-        <translation type="unfinished"></translation>
+        <translation>日付が 0001 年から 9999 年の範囲外になります。</translation>
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>適用</translation>
     </message>
     <message>
         <source>Edited</source>
-        <translation type="unfinished"></translation>
+        <translation>変更済み</translation>
     </message>
     <message>
         <source>No Date-Time</source>
-        <translation type="unfinished"></translation>
+        <translation>日時なし</translation>
     </message>
     <message>
         <source>Restore Selected Files</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したファイルを元に戻す</translation>
     </message>
     <message>
         <source>Restore All Files</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのファイルを元に戻す</translation>
     </message>
     <message>
         <source>Backward</source>
-        <translation type="unfinished"></translation>
+        <translation>戻す</translation>
     </message>
     <message>
         <source>Forward</source>
-        <translation type="unfinished"></translation>
+        <translation>進める</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Open in One Window</source>
-        <translation type="unfinished"></translation>
+        <translation>1 つのウインドウで開く</translation>
     </message>
     <message>
         <source>Open in Separate Windows</source>
-        <translation type="unfinished"></translation>
+        <translation>別々のウインドウで開く</translation>
     </message>
     <message>
         <source>Synchronize</source>
-        <translation type="unfinished"></translation>
+        <translation>同期</translation>
     </message>
     <message>
         <source>Multiple Values</source>
-        <translation type="unfinished"></translation>
+        <translation>複数の値</translation>
     </message>
     <message>
         <source>There are multiple documents with unsaved changes. Do you want to save them before closing?</source>
-        <translation type="unfinished"></translation>
+        <translation>保存されていない変更のある書類が複数あります。閉じる前に保存しますか?</translation>
     </message>
     <message>
         <source>Your changes will be lost if you don&apos;t save them.</source>
-        <translation type="unfinished"></translation>
+        <translation>保存しないと、変更内容は失われます。</translation>
     </message>
     <message>
         <source>It uses a file format that Lumidate does not recognize.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lumidate が認識できないファイルフォーマットです。</translation>
     </message>
     <message>
         <source>An unknown cause.</source>
-        <translation type="unfinished"></translation>
+        <translation>原因は不明です。</translation>
     </message>
     <message>
         <source>The files could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルを開けませんでした。</translation>
     </message>
     <message>
         <source>Set Time</source>
-        <translation type="unfinished"></translation>
+        <translation>時刻を設定</translation>
     </message>
     <message>
         <source>Years</source>
-        <translation type="unfinished"></translation>
+        <translation>年</translation>
     </message>
     <message>
         <source>Months</source>
-        <translation type="unfinished"></translation>
+        <translation>月</translation>
     </message>
     <message>
         <source>Days</source>
-        <translation type="unfinished"></translation>
+        <translation>日</translation>
     </message>
     <message>
         <source>Hours</source>
-        <translation type="unfinished"></translation>
+        <translation>時間</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>分</translation>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>秒</translation>
     </message>
     <message>
         <source>Year</source>
-        <translation type="unfinished"></translation>
+        <translation>年</translation>
     </message>
     <message>
         <source>Month</source>
-        <translation type="unfinished"></translation>
+        <translation>月</translation>
     </message>
     <message>
         <source>Day</source>
-        <translation type="unfinished"></translation>
+        <translation>日</translation>
     </message>
     <message>
         <source>Hour</source>
-        <translation type="unfinished"></translation>
+        <translation>時</translation>
     </message>
     <message>
         <source>Minute</source>
-        <translation type="unfinished"></translation>
+        <translation>分</translation>
     </message>
     <message>
         <source>Second</source>
-        <translation type="unfinished"></translation>
+        <translation>秒</translation>
     </message>
     <message>
         <source>Thumbnail</source>
-        <translation type="unfinished"></translation>
+        <translation>サムネイル</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>変更</translation>
     </message>
     <message>
         <source>FileName</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル名</translation>
     </message>
     <message>
         <source>DateTimeOriginal</source>
-        <translation type="unfinished"></translation>
+        <translation>撮影日時</translation>
     </message>
     <message>
         <source>DateTimeDigitized</source>
-        <translation type="unfinished"></translation>
+        <translation>デジタル化日時</translation>
     </message>
     <message>
         <source>DateTime</source>
-        <translation type="unfinished"></translation>
+        <translation>変更日時</translation>
     </message>
     <message>
         <source>Restore Clicked File</source>
-        <translation type="unfinished"></translation>
+        <translation>クリックしたファイルを元に戻す</translation>
     </message>
     <message>
         <source>Date Time Original:</source>
-        <translation type="unfinished"></translation>
+        <translation>撮影日時:</translation>
     </message>
     <message>
         <source>Date Time Digitized:</source>
-        <translation type="unfinished"></translation>
+        <translation>デジタル化日時:</translation>
     </message>
     <message>
         <source>Date Time Edited:</source>
-        <translation type="unfinished"></translation>
+        <translation>変更日時:</translation>
     </message>
     <message>
         <source>Hide Information</source>
-        <translation type="unfinished"></translation>
+        <translation>情報を隠す</translation>
     </message>
     <message>
         <source>Show Information</source>
-        <translation type="unfinished"></translation>
+        <translation>情報を表示</translation>
     </message>
 </context>
 <context>
     <name>MultiFileActions</name>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる(&amp;C)</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>保存(&amp;S)</translation>
     </message>
     <message>
         <source>Save &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてを保存(&amp;A)</translation>
     </message>
     <message>
         <source>Select &amp;All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてを選択(&amp;A)</translation>
     </message>
     <message>
         <source>Mark All Files</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのファイルに印を付ける</translation>
     </message>
     <message>
         <source>Unmark All Files</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのファイルの印を外す</translation>
     </message>
     <message>
         <source>Mark Selected Files</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したファイルに印を付ける</translation>
     </message>
     <message>
         <source>Unmark Selected Files</source>
-        <translation type="unfinished"></translation>
+        <translation>選択したファイルの印を外す</translation>
     </message>
     <message>
         <source>Sort By</source>
-        <translation type="unfinished"></translation>
+        <translation>並べ替え</translation>
     </message>
 </context>
 <context>
     <name>MultiFileWindow</name>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル</translation>
     </message>
     <message>
         <source>Path</source>
-        <translation type="unfinished"></translation>
+        <translation>パス</translation>
     </message>
     <message>
         <source>&amp;Path:</source>
-        <translation type="unfinished"></translation>
+        <translation>パス(&amp;P):</translation>
     </message>
 </context>
 <context>
     <name>OpenFileDialog</name>
     <message>
         <source>Photos (*.jpg *.JPG *.jpeg *.JPEG *.tif *.TIF *.tiff *.TIFF)</source>
-        <translation type="unfinished"></translation>
+        <translation>写真 (*.jpg *.JPG *.jpeg *.JPEG *.tif *.TIF *.tiff *.TIFF)</translation>
     </message>
     <message>
         <source>All Files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのファイル (*)</translation>
     </message>
 </context>
 <context>
     <name>PhotoView</name>
     <message>
         <source>Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>写真</translation>
     </message>
     <message>
         <source>The photo cannot be shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>写真を表示できません。</translation>
     </message>
 </context>
 <context>
     <name>QMenuBar</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル(&amp;F)</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>編集(&amp;E)</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>表示(&amp;V)</translation>
     </message>
     <message>
         <source>List Size</source>
-        <translation type="unfinished"></translation>
+        <translation>リストのサイズ</translation>
     </message>
     <message>
         <source>&amp;Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>ツール(&amp;T)</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプ(&amp;H)</translation>
     </message>
 </context>
 <context>
     <name>SavingSheet</name>
     <message>
         <source>Saving</source>
-        <translation type="unfinished"></translation>
+        <translation>保存中</translation>
     </message>
     <message>
         <source>Saving...</source>
-        <translation type="unfinished"></translation>
+        <translation>保存中...</translation>
     </message>
 </context>
 <context>
     <name>SingleFileWindow</name>
     <message>
         <source>Change by Interval...</source>
-        <translation type="unfinished"></translation>
+        <translation>間隔で変更...</translation>
     </message>
     <message>
         <source>Restore</source>
-        <translation type="unfinished"></translation>
+        <translation>元に戻す</translation>
     </message>
     <message>
         <source>&amp;Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる(&amp;C)</translation>
     </message>
     <message>
         <source>Re&amp;vert to Saved</source>
-        <translation type="unfinished"></translation>
+        <translation>保存した状態に戻す(&amp;V)</translation>
     </message>
     <message>
         <source>Change by &amp;Interval...</source>
-        <translation type="unfinished"></translation>
+        <translation>間隔で変更(&amp;I)...</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Shows and corrects the dates of photos.</source>
-        <translation type="unfinished"></translation>
+        <translation>写真の日付を表示して修正します。</translation>
     </message>
     <message>
         <source>Photo files or folders to open.</source>
-        <translation type="unfinished"></translation>
+        <translation>開く写真ファイルまたはフォルダ。</translation>
     </message>
 </context>
 </TS>
