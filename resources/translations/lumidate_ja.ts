@@ -1627,807 +1627,807 @@
     <name>IPTC</name>
     <message>
         <source>IIM Envelope Record Version</source>
-        <translation type="unfinished"></translation>
+        <translation>エンベロープレコードのバージョン</translation>
     </message>
     <message>
         <source>IIM Destination</source>
-        <translation type="unfinished"></translation>
+        <translation>宛先</translation>
     </message>
     <message>
         <source>IIM File Format</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル形式</translation>
     </message>
     <message>
         <source>IIM File Format Version</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイル形式のバージョン</translation>
     </message>
     <message>
         <source>IIM Service Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>サービス識別子</translation>
     </message>
     <message>
         <source>IIM Envelope Number</source>
-        <translation type="unfinished"></translation>
+        <translation>エンベロープ番号</translation>
     </message>
     <message>
         <source>IIM Product ID</source>
-        <translation type="unfinished"></translation>
+        <translation>製品 ID</translation>
     </message>
     <message>
         <source>IIM Envelope Priority</source>
-        <translation type="unfinished"></translation>
+        <translation>エンベロープの優先度</translation>
     </message>
     <message>
         <source>IIM Date Sent</source>
-        <translation type="unfinished"></translation>
+        <translation>送信日</translation>
     </message>
     <message>
         <source>IIM Time Sent</source>
-        <translation type="unfinished"></translation>
+        <translation>送信時刻</translation>
     </message>
     <message>
         <source>IIM Coded Character Set</source>
-        <translation type="unfinished"></translation>
+        <translation>文字コード</translation>
     </message>
     <message>
         <source>IIM UNO</source>
-        <translation type="unfinished"></translation>
+        <translation>固有名 (UNO)</translation>
     </message>
     <message>
         <source>IIM ARM Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>ARM 識別子</translation>
     </message>
     <message>
         <source>IIM ARM Version</source>
-        <translation type="unfinished"></translation>
+        <translation>ARM バージョン</translation>
     </message>
     <message>
         <source>IIM Application Record Version</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーションレコードのバージョン</translation>
     </message>
     <message>
         <source>IIM Object Type Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>オブジェクトタイプ参照</translation>
     </message>
     <message>
         <source>IIM Object Attribute Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>オブジェクト属性参照</translation>
     </message>
     <message>
         <source>IIM Object Name</source>
-        <translation type="unfinished"></translation>
+        <translation>オブジェクト名</translation>
     </message>
     <message>
         <source>IIM Edit Status</source>
-        <translation type="unfinished"></translation>
+        <translation>編集状態</translation>
     </message>
     <message>
         <source>IIM Editorial Update</source>
-        <translation type="unfinished"></translation>
+        <translation>編集上の更新</translation>
     </message>
     <message>
         <source>IIM Urgency</source>
-        <translation type="unfinished"></translation>
+        <translation>緊急度</translation>
     </message>
     <message>
         <source>IIM Subject Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>サブジェクト参照</translation>
     </message>
     <message>
         <source>IIM Category</source>
-        <translation type="unfinished"></translation>
+        <translation>カテゴリ</translation>
     </message>
     <message>
         <source>IIM Supplemental Category</source>
-        <translation type="unfinished"></translation>
+        <translation>補助カテゴリ</translation>
     </message>
     <message>
         <source>IIM Fixture Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>定期記事識別子</translation>
     </message>
     <message>
         <source>IIM Keywords</source>
-        <translation type="unfinished"></translation>
+        <translation>キーワード</translation>
     </message>
     <message>
         <source>IIM Content Location Code</source>
-        <translation type="unfinished"></translation>
+        <translation>内容の場所コード</translation>
     </message>
     <message>
         <source>IIM Content Location Name</source>
-        <translation type="unfinished"></translation>
+        <translation>内容の場所名</translation>
     </message>
     <message>
         <source>IIM Release Date</source>
-        <translation type="unfinished"></translation>
+        <translation>公開日</translation>
     </message>
     <message>
         <source>IIM Release Time</source>
-        <translation type="unfinished"></translation>
+        <translation>公開時刻</translation>
     </message>
     <message>
         <source>IIM Expiration Date</source>
-        <translation type="unfinished"></translation>
+        <translation>有効期限日</translation>
     </message>
     <message>
         <source>IIM Expiration Time</source>
-        <translation type="unfinished"></translation>
+        <translation>有効期限時刻</translation>
     </message>
     <message>
         <source>IIM Special Instructions</source>
-        <translation type="unfinished"></translation>
+        <translation>特別な指示</translation>
     </message>
     <message>
         <source>IIM Action Advised</source>
-        <translation type="unfinished"></translation>
+        <translation>推奨される処置</translation>
     </message>
     <message>
         <source>IIM Reference Service</source>
-        <translation type="unfinished"></translation>
+        <translation>参照サービス</translation>
     </message>
     <message>
         <source>IIM Reference Date</source>
-        <translation type="unfinished"></translation>
+        <translation>参照日</translation>
     </message>
     <message>
         <source>IIM Reference Number</source>
-        <translation type="unfinished"></translation>
+        <translation>参照番号</translation>
     </message>
     <message>
         <source>IIM Date Created</source>
-        <translation type="unfinished"></translation>
+        <translation>作成日</translation>
     </message>
     <message>
         <source>IIM Time Created</source>
-        <translation type="unfinished"></translation>
+        <translation>作成時刻</translation>
     </message>
     <message>
         <source>IIM Digital Creation Date</source>
-        <translation type="unfinished"></translation>
+        <translation>デジタル作成日</translation>
     </message>
     <message>
         <source>IIM Digital Creation Time</source>
-        <translation type="unfinished"></translation>
+        <translation>デジタル作成時刻</translation>
     </message>
     <message>
         <source>IIM Originating Program</source>
-        <translation type="unfinished"></translation>
+        <translation>作成プログラム</translation>
     </message>
     <message>
         <source>IIM Program Version</source>
-        <translation type="unfinished"></translation>
+        <translation>プログラムのバージョン</translation>
     </message>
     <message>
         <source>IIM Object Cycle</source>
-        <translation type="unfinished"></translation>
+        <translation>オブジェクトサイクル</translation>
     </message>
     <message>
         <source>IIM By-line</source>
-        <translation type="unfinished"></translation>
+        <translation>作者</translation>
     </message>
     <message>
         <source>IIM By-line Title</source>
-        <translation type="unfinished"></translation>
+        <translation>作者の肩書き</translation>
     </message>
     <message>
         <source>IIM City</source>
-        <translation type="unfinished"></translation>
+        <translation>市区町村</translation>
     </message>
     <message>
         <source>IIM Sublocation</source>
-        <translation type="unfinished"></translation>
+        <translation>地区</translation>
     </message>
     <message>
         <source>IIM Province/State</source>
-        <translation type="unfinished"></translation>
+        <translation>都道府県/州</translation>
     </message>
     <message>
         <source>IIM Country Code</source>
-        <translation type="unfinished"></translation>
+        <translation>国コード</translation>
     </message>
     <message>
         <source>IIM Country</source>
-        <translation type="unfinished"></translation>
+        <translation>国名</translation>
     </message>
     <message>
         <source>IIM Transmission Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>送信参照</translation>
     </message>
     <message>
         <source>IIM Headline</source>
-        <translation type="unfinished"></translation>
+        <translation>見出し</translation>
     </message>
     <message>
         <source>IIM Credit</source>
-        <translation type="unfinished"></translation>
+        <translation>クレジット</translation>
     </message>
     <message>
         <source>IIM Source</source>
-        <translation type="unfinished"></translation>
+        <translation>提供元</translation>
     </message>
     <message>
         <source>IIM Copyright Notice</source>
-        <translation type="unfinished"></translation>
+        <translation>著作権表示</translation>
     </message>
     <message>
         <source>IIM Contact</source>
-        <translation type="unfinished"></translation>
+        <translation>連絡先</translation>
     </message>
     <message>
         <source>IIM Caption</source>
-        <translation type="unfinished"></translation>
+        <translation>説明</translation>
     </message>
     <message>
         <source>IIM Writer</source>
-        <translation type="unfinished"></translation>
+        <translation>説明の作成者</translation>
     </message>
     <message>
         <source>IIM Rasterized Caption</source>
-        <translation type="unfinished"></translation>
+        <translation>ラスタライズされた説明</translation>
     </message>
     <message>
         <source>IIM Image Type</source>
-        <translation type="unfinished"></translation>
+        <translation>画像タイプ</translation>
     </message>
     <message>
         <source>IIM Image Orientation</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の向き</translation>
     </message>
     <message>
         <source>IIM Language Identifier</source>
-        <translation type="unfinished"></translation>
+        <translation>言語識別子</translation>
     </message>
     <message>
         <source>IIM Audio Type</source>
-        <translation type="unfinished"></translation>
+        <translation>オーディオタイプ</translation>
     </message>
     <message>
         <source>IIM Audio Sampling Rate</source>
-        <translation type="unfinished"></translation>
+        <translation>オーディオのサンプリングレート</translation>
     </message>
     <message>
         <source>IIM Audio Sampling Resolution</source>
-        <translation type="unfinished"></translation>
+        <translation>オーディオのサンプリング解像度</translation>
     </message>
     <message>
         <source>IIM Audio Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>オーディオの長さ</translation>
     </message>
     <message>
         <source>IIM Audio Outcue</source>
-        <translation type="unfinished"></translation>
+        <translation>オーディオの終了キュー</translation>
     </message>
     <message>
         <source>IIM Object Data Preview File Format</source>
-        <translation type="unfinished"></translation>
+        <translation>プレビューのファイル形式</translation>
     </message>
     <message>
         <source>IIM Object Data Preview File Format Version</source>
-        <translation type="unfinished"></translation>
+        <translation>プレビューのファイル形式のバージョン</translation>
     </message>
     <message>
         <source>IIM Object Data Preview Data</source>
-        <translation type="unfinished"></translation>
+        <translation>プレビューデータ</translation>
     </message>
     <message>
         <source>IIM NewsPhoto Record Version</source>
-        <translation type="unfinished"></translation>
+        <translation>ニュース写真レコードのバージョン</translation>
     </message>
     <message>
         <source>IIM Picture Number</source>
-        <translation type="unfinished"></translation>
+        <translation>写真番号</translation>
     </message>
     <message>
         <source>IIM Image Width</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の幅</translation>
     </message>
     <message>
         <source>IIM Image Height</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の高さ</translation>
     </message>
     <message>
         <source>IIM Pixel Width</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセルの幅</translation>
     </message>
     <message>
         <source>IIM Pixel Height</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセルの高さ</translation>
     </message>
     <message>
         <source>IIM Supplement Type</source>
-        <translation type="unfinished"></translation>
+        <translation>補足タイプ</translation>
     </message>
     <message>
         <source>IIM Color Representation</source>
-        <translation type="unfinished"></translation>
+        <translation>色表現</translation>
     </message>
     <message>
         <source>IIM Interchange Color Space</source>
-        <translation type="unfinished"></translation>
+        <translation>交換用色空間</translation>
     </message>
     <message>
         <source>IIM Color Sequence</source>
-        <translation type="unfinished"></translation>
+        <translation>色の順序</translation>
     </message>
     <message>
         <source>IIM ICC Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>ICC プロファイル</translation>
     </message>
     <message>
         <source>IIM Color Calibration Matrix</source>
-        <translation type="unfinished"></translation>
+        <translation>色補正マトリクス</translation>
     </message>
     <message>
         <source>IIM Lookup Table</source>
-        <translation type="unfinished"></translation>
+        <translation>ルックアップテーブル</translation>
     </message>
     <message>
         <source>IIM Number of Index Entries</source>
-        <translation type="unfinished"></translation>
+        <translation>インデックス項目数</translation>
     </message>
     <message>
         <source>IIM Color Palette</source>
-        <translation type="unfinished"></translation>
+        <translation>カラーパレット</translation>
     </message>
     <message>
         <source>IIM Number of Bits per Sample</source>
-        <translation type="unfinished"></translation>
+        <translation>サンプルあたりのビット数</translation>
     </message>
     <message>
         <source>IIM Sampling Structure</source>
-        <translation type="unfinished"></translation>
+        <translation>サンプリング構造</translation>
     </message>
     <message>
         <source>IIM Scanning Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>走査方向</translation>
     </message>
     <message>
         <source>IIM Image Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>画像の回転</translation>
     </message>
     <message>
         <source>IIM Data Compression Method</source>
-        <translation type="unfinished"></translation>
+        <translation>データ圧縮方式</translation>
     </message>
     <message>
         <source>IIM Quantization Method</source>
-        <translation type="unfinished"></translation>
+        <translation>量子化方式</translation>
     </message>
     <message>
         <source>IIM End Points</source>
-        <translation type="unfinished"></translation>
+        <translation>端点</translation>
     </message>
     <message>
         <source>IIM Excursion Tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>偏位許容差</translation>
     </message>
     <message>
         <source>IIM Bits per Component</source>
-        <translation type="unfinished"></translation>
+        <translation>コンポーネントあたりのビット数</translation>
     </message>
     <message>
         <source>IIM Maximum Density Range</source>
-        <translation type="unfinished"></translation>
+        <translation>最大濃度範囲</translation>
     </message>
     <message>
         <source>IIM Gamma Compensated Value</source>
-        <translation type="unfinished"></translation>
+        <translation>ガンマ補正値</translation>
     </message>
     <message>
         <source>Current</source>
-        <translation type="unfinished"></translation>
+        <translation>最新</translation>
     </message>
     <message>
         <source>Analysis</source>
-        <translation type="unfinished"></translation>
+        <translation>分析</translation>
     </message>
     <message>
         <source>Archive material</source>
-        <translation type="unfinished"></translation>
+        <translation>アーカイブ資料</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>背景</translation>
     </message>
     <message>
         <source>Feature</source>
-        <translation type="unfinished"></translation>
+        <translation>特集</translation>
     </message>
     <message>
         <source>Forecast</source>
-        <translation type="unfinished"></translation>
+        <translation>予測</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>歴史</translation>
     </message>
     <message>
         <source>Obituary</source>
-        <translation type="unfinished"></translation>
+        <translation>訃報</translation>
     </message>
     <message>
         <source>Opinion</source>
-        <translation type="unfinished"></translation>
+        <translation>論説</translation>
     </message>
     <message>
         <source>Polls &amp; Surveys</source>
-        <translation type="unfinished"></translation>
+        <translation>世論調査・アンケート</translation>
     </message>
     <message>
         <source>Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>人物紹介</translation>
     </message>
     <message>
         <source>Results Listings &amp; Tables</source>
-        <translation type="unfinished"></translation>
+        <translation>結果一覧・表</translation>
     </message>
     <message>
         <source>Side bar &amp; Supporting information</source>
-        <translation type="unfinished"></translation>
+        <translation>囲み記事・補足情報</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>要約</translation>
     </message>
     <message>
         <source>Transcript &amp; Verbatim</source>
-        <translation type="unfinished"></translation>
+        <translation>記録・全文</translation>
     </message>
     <message>
         <source>Interview</source>
-        <translation type="unfinished"></translation>
+        <translation>インタビュー</translation>
     </message>
     <message>
         <source>From the Scene</source>
-        <translation type="unfinished"></translation>
+        <translation>現場から</translation>
     </message>
     <message>
         <source>Retrospective</source>
-        <translation type="unfinished"></translation>
+        <translation>回顧</translation>
     </message>
     <message>
         <source>Statistics</source>
-        <translation type="unfinished"></translation>
+        <translation>統計</translation>
     </message>
     <message>
         <source>Update</source>
-        <translation type="unfinished"></translation>
+        <translation>更新</translation>
     </message>
     <message>
         <source>Wrap-up</source>
-        <translation type="unfinished"></translation>
+        <translation>まとめ</translation>
     </message>
     <message>
         <source>Press Release</source>
-        <translation type="unfinished"></translation>
+        <translation>プレスリリース</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>不明</translation>
     </message>
     <message>
         <source>Info (Photoshop 2.0)</source>
-        <translation type="unfinished"></translation>
+        <translation>情報 (Photoshop 2.0)</translation>
     </message>
     <message>
         <source>Macintosh Print Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Macintosh プリント情報</translation>
     </message>
     <message>
         <source>XML Data</source>
-        <translation type="unfinished"></translation>
+        <translation>XML データ</translation>
     </message>
     <message>
         <source>Indexed Color Table (Photoshop 2.0)</source>
-        <translation type="unfinished"></translation>
+        <translation>インデックスカラーテーブル (Photoshop 2.0)</translation>
     </message>
     <message>
         <source>Resolution Info</source>
-        <translation type="unfinished"></translation>
+        <translation>解像度情報</translation>
     </message>
     <message>
         <source>Names of the Alpha Channels</source>
-        <translation type="unfinished"></translation>
+        <translation>アルファチャンネル名</translation>
     </message>
     <message>
         <source>Display Info (Obsolete)</source>
-        <translation type="unfinished"></translation>
+        <translation>表示情報 (廃止)</translation>
     </message>
     <message>
         <source>Caption</source>
-        <translation type="unfinished"></translation>
+        <translation>キャプション</translation>
     </message>
     <message>
         <source>Border Info</source>
-        <translation type="unfinished"></translation>
+        <translation>境界線情報</translation>
     </message>
     <message>
         <source>Background Color</source>
-        <translation type="unfinished"></translation>
+        <translation>背景色</translation>
     </message>
     <message>
         <source>Print Flags</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントフラグ</translation>
     </message>
     <message>
         <source>Grayscale and Multichannel Halftoning Info</source>
-        <translation type="unfinished"></translation>
+        <translation>グレースケール・マルチチャンネルのハーフトーン情報</translation>
     </message>
     <message>
         <source>Color Halftoning Info</source>
-        <translation type="unfinished"></translation>
+        <translation>カラーハーフトーン情報</translation>
     </message>
     <message>
         <source>Duotone Halftoning Info</source>
-        <translation type="unfinished"></translation>
+        <translation>ダブルトーンのハーフトーン情報</translation>
     </message>
     <message>
         <source>Grayscale and Multichannel Transfer Function</source>
-        <translation type="unfinished"></translation>
+        <translation>グレースケール・マルチチャンネルの転送関数</translation>
     </message>
     <message>
         <source>Color Transfer Functions</source>
-        <translation type="unfinished"></translation>
+        <translation>カラー転送関数</translation>
     </message>
     <message>
         <source>Duotone Transfer Functions</source>
-        <translation type="unfinished"></translation>
+        <translation>ダブルトーン転送関数</translation>
     </message>
     <message>
         <source>Duotone Image Info</source>
-        <translation type="unfinished"></translation>
+        <translation>ダブルトーン画像情報</translation>
     </message>
     <message>
         <source>Effective Black and White</source>
-        <translation type="unfinished"></translation>
+        <translation>有効な白黒値</translation>
     </message>
     <message>
         <source>(Obsolete)</source>
-        <translation type="unfinished"></translation>
+        <translation>(廃止)</translation>
     </message>
     <message>
         <source>EPS Options</source>
-        <translation type="unfinished"></translation>
+        <translation>EPS オプション</translation>
     </message>
     <message>
         <source>Quick Mask Info</source>
-        <translation type="unfinished"></translation>
+        <translation>クイックマスク情報</translation>
     </message>
     <message>
         <source>Layer State</source>
-        <translation type="unfinished"></translation>
+        <translation>レイヤーの状態</translation>
     </message>
     <message>
         <source>Working Path</source>
-        <translation type="unfinished"></translation>
+        <translation>作業用パス</translation>
     </message>
     <message>
         <source>Layers Group</source>
-        <translation type="unfinished"></translation>
+        <translation>レイヤーグループ</translation>
     </message>
     <message>
         <source>IPTC IIM</source>
-        <translation type="unfinished"></translation>
+        <translation>IPTC IIM</translation>
     </message>
     <message>
         <source>Image Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>画像モード</translation>
     </message>
     <message>
         <source>JPEG Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG 画質</translation>
     </message>
     <message>
         <source>Grid and Guides</source>
-        <translation type="unfinished"></translation>
+        <translation>グリッドとガイド</translation>
     </message>
     <message>
         <source>BGR Thumbnail</source>
-        <translation type="unfinished"></translation>
+        <translation>BGR サムネイル</translation>
     </message>
     <message>
         <source>Copyright Flag</source>
-        <translation type="unfinished"></translation>
+        <translation>著作権フラグ</translation>
     </message>
     <message>
         <source>URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL</translation>
     </message>
     <message>
         <source>RGB Thumbnail</source>
-        <translation type="unfinished"></translation>
+        <translation>RGB サムネイル</translation>
     </message>
     <message>
         <source>Global Angle</source>
-        <translation type="unfinished"></translation>
+        <translation>包括光源の角度</translation>
     </message>
     <message>
         <source>Color Samplers</source>
-        <translation type="unfinished"></translation>
+        <translation>カラーサンプラー</translation>
     </message>
     <message>
         <source>ICC Profile</source>
-        <translation type="unfinished"></translation>
+        <translation>ICC プロファイル</translation>
     </message>
     <message>
         <source>Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>透かし</translation>
     </message>
     <message>
         <source>ICC Untagged</source>
-        <translation type="unfinished"></translation>
+        <translation>ICC プロファイルなし</translation>
     </message>
     <message>
         <source>Effects Visible</source>
-        <translation type="unfinished"></translation>
+        <translation>効果の表示</translation>
     </message>
     <message>
         <source>Spot Halftone</source>
-        <translation type="unfinished"></translation>
+        <translation>スポットハーフトーン</translation>
     </message>
     <message>
         <source>Document Specific IDs</source>
-        <translation type="unfinished"></translation>
+        <translation>ドキュメント固有 ID</translation>
     </message>
     <message>
         <source>Unicode Alpha Names</source>
-        <translation type="unfinished"></translation>
+        <translation>Unicode アルファチャンネル名</translation>
     </message>
     <message>
         <source>Indexed Color Table Count</source>
-        <translation type="unfinished"></translation>
+        <translation>インデックスカラーテーブルの色数</translation>
     </message>
     <message>
         <source>Transparency Index</source>
-        <translation type="unfinished"></translation>
+        <translation>透明色インデックス</translation>
     </message>
     <message>
         <source>Global Altitude</source>
-        <translation type="unfinished"></translation>
+        <translation>包括光源の高度</translation>
     </message>
     <message>
         <source>Slices</source>
-        <translation type="unfinished"></translation>
+        <translation>スライス</translation>
     </message>
     <message>
         <source>Workflow URL</source>
-        <translation type="unfinished"></translation>
+        <translation>ワークフロー URL</translation>
     </message>
     <message>
         <source>Jump to XPEP</source>
-        <translation type="unfinished"></translation>
+        <translation>XPEP へジャンプ</translation>
     </message>
     <message>
         <source>Alpha Identifiers</source>
-        <translation type="unfinished"></translation>
+        <translation>アルファチャンネル識別子</translation>
     </message>
     <message>
         <source>URL List</source>
-        <translation type="unfinished"></translation>
+        <translation>URL リスト</translation>
     </message>
     <message>
         <source>Version Info</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョン情報</translation>
     </message>
     <message>
         <source>Exif</source>
-        <translation type="unfinished"></translation>
+        <translation>Exif</translation>
     </message>
     <message>
         <source>XMP Metadata</source>
-        <translation type="unfinished"></translation>
+        <translation>XMP メタデータ</translation>
     </message>
     <message>
         <source>Caption Digest</source>
-        <translation type="unfinished"></translation>
+        <translation>キャプションダイジェスト</translation>
     </message>
     <message>
         <source>Print Scale</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントの拡大・縮小</translation>
     </message>
     <message>
         <source>Pixel Aspect Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>ピクセル縦横比</translation>
     </message>
     <message>
         <source>Layer Comps</source>
-        <translation type="unfinished"></translation>
+        <translation>レイヤーカンプ</translation>
     </message>
     <message>
         <source>Alternate Duotone Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>代替ダブルトーンカラー</translation>
     </message>
     <message>
         <source>Alternate Spot Colors</source>
-        <translation type="unfinished"></translation>
+        <translation>代替スポットカラー</translation>
     </message>
     <message>
         <source>Layer Selection IDs</source>
-        <translation type="unfinished"></translation>
+        <translation>レイヤー選択 ID</translation>
     </message>
     <message>
         <source>HDR Toning Info</source>
-        <translation type="unfinished"></translation>
+        <translation>HDR トーン情報</translation>
     </message>
     <message>
         <source>Print Info</source>
-        <translation type="unfinished"></translation>
+        <translation>プリント情報</translation>
     </message>
     <message>
         <source>Layer Groups Enabled ID</source>
-        <translation type="unfinished"></translation>
+        <translation>有効なレイヤーグループ ID</translation>
     </message>
     <message>
         <source>Color Samplers Resource</source>
-        <translation type="unfinished"></translation>
+        <translation>カラーサンプラーリソース</translation>
     </message>
     <message>
         <source>Measurement Scale</source>
-        <translation type="unfinished"></translation>
+        <translation>計測スケール</translation>
     </message>
     <message>
         <source>Timeline Info</source>
-        <translation type="unfinished"></translation>
+        <translation>タイムライン情報</translation>
     </message>
     <message>
         <source>Sheet Disclosure</source>
-        <translation type="unfinished"></translation>
+        <translation>シートの展開状態</translation>
     </message>
     <message>
         <source>Display Info</source>
-        <translation type="unfinished"></translation>
+        <translation>表示情報</translation>
     </message>
     <message>
         <source>Onion Skins</source>
-        <translation type="unfinished"></translation>
+        <translation>オニオンスキン</translation>
     </message>
     <message>
         <source>Count Info</source>
-        <translation type="unfinished"></translation>
+        <translation>カウント情報</translation>
     </message>
     <message>
         <source>Print Style</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントスタイル</translation>
     </message>
     <message>
         <source>Macintosh NSPrintInfo</source>
-        <translation type="unfinished"></translation>
+        <translation>Macintosh NSPrintInfo</translation>
     </message>
     <message>
         <source>Windows DEVMODE</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows DEVMODE</translation>
     </message>
     <message>
         <source>Path Info</source>
-        <translation type="unfinished"></translation>
+        <translation>パス情報</translation>
     </message>
     <message>
         <source>Name of Clipping Path</source>
-        <translation type="unfinished"></translation>
+        <translation>クリッピングパス名</translation>
     </message>
     <message>
         <source>Plug-In resources</source>
-        <translation type="unfinished"></translation>
+        <translation>プラグインリソース</translation>
     </message>
     <message>
         <source>Image Ready Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>ImageReady 変数</translation>
     </message>
     <message>
         <source>Image Ready Data Sets</source>
-        <translation type="unfinished"></translation>
+        <translation>ImageReady データセット</translation>
     </message>
     <message>
         <source>Lightroom Workflow</source>
-        <translation type="unfinished"></translation>
+        <translation>Lightroom ワークフロー</translation>
     </message>
     <message>
         <source>Print Flags Info</source>
-        <translation type="unfinished"></translation>
+        <translation>プリントフラグ情報</translation>
     </message>
     <message>
         <source>IPTC Information Interchange Model</source>
-        <translation type="unfinished"></translation>
+        <translation>IPTC 情報交換モデル</translation>
     </message>
 </context>
 <context>
