@@ -21,6 +21,7 @@
 #include <filesystem>
 #include <functional>
 
+#include "JapaneseShots.h"
 #include "ScreenshotSession.h"
 #include "app/AppActions.h"
 #include "app/DialogPrompts.h"
@@ -41,7 +42,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kWaitMs = 20000;
-constexpr int kPictures = 12;
+constexpr int kPictures = 14;
 
 // The program's dialogs, except that a handed-over folder opens in one
 // window without asking.
@@ -235,7 +236,8 @@ int main(int argc, char** argv) {
   shootCloseSheet(stage);
   shootSingleWindow(controller, session, photos / "only-original.jpg");
   shootMixedPicker(session);
-  std::printf("%d pictures in %s\n", session.written(), qPrintable(args[2]));
   for (DocumentWindow* w : controller.windows()) delete w;
+  Screenshots::shootInJapanese(photos, session);
+  std::printf("%d pictures in %s\n", session.written(), qPrintable(args[2]));
   return session.written() == kPictures ? 0 : 1;
 }
