@@ -8,6 +8,7 @@
 #include <QUndoGroup>
 
 #include <cstdio>
+#include <functional>
 
 #include "app/AppActions.h"
 #include "app/DialogPrompts.h"
@@ -28,15 +29,20 @@ class OneWindowPrompts : public DialogPrompts {
   OpenStyle askHowToOpen(std::size_t) override { return OpenStyle::OneWindow; }
 };
 
+bool waitFor(const std::function<bool()>& done, const char* what) {
+  if (QTest::qWaitFor(done, 20000)) return true;
+  std::fprintf(stderr, "lumidate-screenshots: gave up waiting for %s in Japanese\n", what);
+  return false;
+}
+
 template <typename W>
 W* openedWindow(const DocumentController& controller) {
   W* window = nullptr;
-  const bool opened = QTest::qWaitFor([&] {
+  const bool opened = waitFor([&] {
     for (DocumentWindow* w : controller.windows())
       if ((window = qobject_cast<W*>(w))) return !controller.isDocumentOpening();
     return false;
-  }, 20000);
-  if (!opened) std::fprintf(stderr, "lumidate-screenshots: no window in Japanese\n");
+  }, "a window");
   return opened ? window : nullptr;
 }
 
@@ -67,18 +73,18 @@ int shootInJapanese(const fs::path& folder, Session& session) {
   controller.openFiles(photos, false);
   if (auto* window = openedWindow<MultiFileWindow>(controller)) {
     window->resize(1000, 640);
-    QTest::qWaitFor([&] {
+    waitFor([&] {
       for (const fs::path& photo : photos)
         if (!window->thumbnails().contains(QString::fromStdString(photo.string()))) return false;
       return true;
-    }, 20000);
+    }, "the thumbnails");
     written += !session.shoot(QStringLiteral("multi-ja"), *window).isEmpty();
   }
   closeAll(controller);
 
   controller.openFiles({folder / "IMG_0001.jpg"}, false);
   if (auto* window = openedWindow<SingleFileWindow>(controller)) {
-    QTest::qWaitFor([&] { return window->photo().hasImage(); }, 20000);
+    waitFor([&] { return window->photo().hasImage(); }, "the photo");
     written += !session.shoot(QStringLiteral("single-ja"), *window).isEmpty();
   }
   closeAll(controller);
