@@ -230,8 +230,10 @@ Text layout(std::uint16_t irbID, ByteView d) {
       if (!index) return std::nullopt;
       return format("Index of target layer: %u", *index);
     }
-    case 1028:
-      return Localization::localizedString(Localization::kIPTCTable, Localization::keys::kIPTCInformationInterchangeModel);
+    case 1028: {
+      using Localization::keys::kIPTCInformationInterchangeModel;
+      return Localization::localizedString(Localization::kIPTCTable, kIPTCInformationInterchangeModel);
+    }
     case 1032: return gridAndGuides(d);
     case 1034: {
       const auto flag = d.u8(0);

@@ -15,7 +15,8 @@ std::string localized(std::string_view key) {
 
 std::unique_ptr<OrbIFDEntry> makeByteOrderEntry(std::int8_t endian) {
   auto entry = OrbIFDEntry::initWithEndian(endian, 0, kTIFFIFDID);
-  entry->setASCIIString(endian == kOrbLittleEndian ? Localization::keys::kLittleEndian : Localization::keys::kBigEndian);
+  using namespace Localization::keys;
+  entry->setASCIIString(endian == kOrbLittleEndian ? kLittleEndian : kBigEndian);
   return entry;
 }
 

@@ -21,7 +21,9 @@ class JapaneseTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void initTestCase() { Translations::install(*QCoreApplication::instance(), QLocale(QLocale::Japanese, QLocale::Japan)); }
+  void initTestCase() {
+    Translations::install(*QCoreApplication::instance(), QLocale(QLocale::Japanese, QLocale::Japan));
+  }
 
   void inspectorRowsShowJapaneseTitlesAndWords() {
     LumError error;
