@@ -94,7 +94,7 @@ set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins")
 # desktop provides through XWayland.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n")
 # The Japanese texts need a font with Japanese characters.
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS "fonts-noto-cjk")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "fonts-ipafont-gothic")
 # One string: CPack would join separate arguments with semicolons.
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION [=[Lumidate shows the dates a camera stores in JPEG (Exif) and TIFF photos
 (when the picture was taken, digitized and last changed) and corrects them:

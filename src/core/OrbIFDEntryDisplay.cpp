@@ -8,6 +8,7 @@
 #include "core/ByteView.h"
 #include "core/EntryCatalogueHooks.h"
 #include "core/Localization.h"
+#include "core/LocalizationKeys.h"
 #include "core/OrbIFDEntry.h"
 #include "core/TextEncoding.h"
 
@@ -238,7 +239,7 @@ OrbDataObject OrbIFDEntry::dataObject() const {
 std::string OrbIFDEntry::stringData() const {
   std::string text = dataObject().stringValue();
   if (isOffsetTimeTag(*this) && isBlankOffsetTime(text))
-    return Localization::localizedString(Localization::kIFDTable, "Unknown");
+    return Localization::localizedString(Localization::kIFDTable, Localization::keys::kUnknown);
   return text;
 }
 
@@ -248,7 +249,7 @@ OrbDataObject OrbIFDEntry::localizedDataObject() const {
   if (object.isText() && (byteOrderEntry || type() != kOrbTypeASCII))
     return OrbDataObject(Localization::localizedString(Localization::kIFDTable, object.text()));
   if (isOffsetTimeTag(*this) && object.isText() && isBlankOffsetTime(object.text()))
-    return OrbDataObject(Localization::localizedString(Localization::kIFDTable, "Unknown"));
+    return OrbDataObject(Localization::localizedString(Localization::kIFDTable, Localization::keys::kUnknown));
   return object;
 }
 

@@ -3,6 +3,7 @@
 #include <cstdio>
 
 #include "core/Localization.h"
+#include "core/LocalizationKeys.h"
 #include "core/TagTableExif.h"
 #include "core/TagTableGPS.h"
 #include "core/TagTableInteroperability.h"
@@ -49,7 +50,7 @@ std::optional<TagInfo> tagInfo(std::uint16_t tag, std::uint32_t ifdID) { return 
 
 std::string titleWithTag(std::uint16_t tag, std::uint32_t ifdID, std::uint32_t version) {
   if (ifdID == kExifIFDID && tag == kISOSpeedRatings)
-    return version >= 230 ? "Photographic Sensitivity" : "ISO Speed Ratings";
+    return std::string(version >= 230 ? Localization::keys::kPhotographicSensitivity : "ISO Speed Ratings");
   if (const auto info = tagInfo(tag, ifdID)) return std::string(info->title);
   char text[16];
   std::snprintf(text, sizeof text, "(0x%X)", static_cast<unsigned>(tag));

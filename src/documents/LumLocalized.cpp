@@ -1,6 +1,7 @@
 #include "documents/LumLocalized.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 
 #include "documents/LumLocalizedTable.h"
 
@@ -24,5 +25,7 @@ QString format(const char* key, const QString& a1, const QString& a2) {
   if (!f.contains(QLatin1String("%1"))) return f;
   return f.contains(QLatin1String("%2")) ? f.arg(a1, a2) : f.arg(a1);
 }
+
+QString count(std::size_t n) { return QLocale().toString(static_cast<qulonglong>(n)); }
 
 }  // namespace LumLocalized

@@ -8,6 +8,8 @@
 
 #include <QString>
 
+#include <cstddef>
+
 namespace LumLocalized {
 
 inline constexpr const char* kContext = "Localizable";
@@ -18,5 +20,9 @@ QString text(const char* key);
 // The text for key with its arguments filled in (%1, %2, ...).
 QString format(const char* key, const QString& a1);
 QString format(const char* key, const QString& a1, const QString& a2);
+
+// A count as the user's locale writes it ("1,234" in English), for the
+// arguments of the texts above.
+QString count(std::size_t n);
 
 }  // namespace LumLocalized

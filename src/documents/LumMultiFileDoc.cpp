@@ -379,7 +379,7 @@ void LumMultiFileDoc::updateFileURLAndWindowTitle() {
   fileURL_ = shown ? std::optional(shown->path()) : std::nullopt;
   const QString name = shown ? QString::fromStdString(shown->fileName()) : QString();
   windowTitle_ = items_.size() >= 2
-                     ? LumLocalized::format("LocalST_ImagesWindowTitle", name, QString::number(items_.size()))
+                     ? LumLocalized::format("LocalST_ImagesWindowTitle", name, LumLocalized::count(items_.size()))
                      : name;
   emit titleChanged(windowTitle_, hasEditedFileSelected());
 }
@@ -394,7 +394,7 @@ std::optional<LumMultiFileDoc::CloseAlertTexts> LumMultiFileDoc::getTitleForAler
                                  QString::fromStdString(edited.front()->fileName()))
           : LumLocalized::format(
                 "There are multiple documents with unsaved changes. Do you want to save them before closing?",
-                QString::number(edited.size()));
+                LumLocalized::count(edited.size()));
   texts.message = LumLocalized::text("Your changes will be lost if you don't save them.");
   return texts;
 }

@@ -12,14 +12,14 @@ QString fileName(const Failure& f) { return QString::fromStdString(f.path.filena
 std::optional<AlertTexts> alertTexts(std::size_t total, const std::vector<Failure>& failures) {
   if (failures.empty()) return std::nullopt;
   const std::size_t saved = total >= failures.size() ? total - failures.size() : 0;
-  const QString savedText = LumLocalized::format("Save Completed:", QString::number(saved));
+  const QString savedText = LumLocalized::format("Save Completed:", LumLocalized::count(saved));
   AlertTexts alert;
   if (failures.size() == 1) {
     alert.message = LumLocalized::format("Save a file Failed.", fileName(failures.front()));
     alert.informativeText = savedText + "\n\n" + QString::fromStdString(failures.front().reason);
     return alert;
   }
-  alert.message = LumLocalized::format("Save files Failed.", QString::number(failures.size()));
+  alert.message = LumLocalized::format("Save files Failed.", LumLocalized::count(failures.size()));
   alert.informativeText = savedText + "\n";
   for (std::size_t i = 0; i < failures.size(); ++i) {
     alert.informativeText += "\n" + fileName(failures[i]) + ": " + QString::fromStdString(failures[i].reason);

@@ -7,6 +7,7 @@
 
 #include "core/ByteView.h"
 #include "core/Localization.h"
+#include "core/LocalizationKeys.h"
 #include "formats/RecordText.h"
 
 namespace ImageResourceDescriptions {
@@ -229,7 +230,10 @@ Text layout(std::uint16_t irbID, ByteView d) {
       if (!index) return std::nullopt;
       return format("Index of target layer: %u", *index);
     }
-    case 1028: return Localization::localizedString(Localization::kIPTCTable, "IPTC Information Interchange Model");
+    case 1028: {
+      using Localization::keys::kIPTCInformationInterchangeModel;
+      return Localization::localizedString(Localization::kIPTCTable, kIPTCInformationInterchangeModel);
+    }
     case 1032: return gridAndGuides(d);
     case 1034: {
       const auto flag = d.u8(0);

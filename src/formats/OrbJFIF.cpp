@@ -15,11 +15,8 @@ std::string OrbJFIF::stringJFIFVersion() const {
 }
 
 std::string OrbJFIF::stringJFIFUnit() const {
-  switch (unit_) {
-    case 1: return "Dots per inch";
-    case 2: return "Dots per cm";
-    default: return "No Units";
-  }
+  const std::size_t index = unit_ == 1 || unit_ == 2 ? static_cast<std::size_t>(unit_) : 0;
+  return std::string(kDensityUnitWords[index]);
 }
 
 void OrbJFIF::setValue(std::int64_t value, std::string_view key) {

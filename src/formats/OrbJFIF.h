@@ -3,6 +3,7 @@
 // and written by the keys of the image file's JFIF dictionary, and written
 // out whole, marker included.
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -23,6 +24,9 @@ class OrbJFIF {
   static constexpr std::string_view kYDensityKey = "Y Density";
   static constexpr std::string_view kThumbnailWidthKey = "Thumbnail Width";
   static constexpr std::string_view kThumbnailHeightKey = "Thumbnail Height";
+  // The words of the density units 0 (and any unknown unit), 1 and 2; the
+  // inspector shows them translated.
+  static constexpr std::array<std::string_view, 3> kDensityUnitWords{"No Units", "Dots per inch", "Dots per cm"};
   // The segment without thumbnail, marker included.
   static constexpr std::uint16_t kFixedSize = 18;
 

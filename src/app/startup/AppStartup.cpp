@@ -40,7 +40,8 @@ void addToolkitOptions(QCommandLineParser& parser) {
 
 std::optional<int> AppStartup::parseCommandLine(int argc, char** argv, Arguments& arguments) {
   setApplicationIdentity();
-  const QCoreApplication core(argc, argv);
+  QCoreApplication core(argc, argv);
+  Translations::install(core);  // --help in the user's language; gone with core
   QCommandLineParser parser;
   parser.setApplicationDescription(QCoreApplication::translate("main", "Shows and corrects the dates of photos."));
   parser.setSingleDashWordOptionMode(QCommandLineParser::ParseAsLongOptions);

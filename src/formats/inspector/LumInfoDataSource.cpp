@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "core/Localization.h"
+#include "core/LocalizationKeys.h"
 #include "core/OrbTiff.h"
 #include "formats/inspector/InspectorTagLists.h"
 
@@ -14,7 +15,8 @@ std::string localized(std::string_view key) {
 
 std::unique_ptr<OrbIFDEntry> makeByteOrderEntry(std::int8_t endian) {
   auto entry = OrbIFDEntry::initWithEndian(endian, 0, kTIFFIFDID);
-  entry->setASCIIString(endian == kOrbLittleEndian ? "Little Endian" : "Big Endian");
+  using namespace Localization::keys;
+  entry->setASCIIString(endian == kOrbLittleEndian ? kLittleEndian : kBigEndian);
   return entry;
 }
 

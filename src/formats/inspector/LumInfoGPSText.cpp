@@ -2,6 +2,8 @@
 // the reference entry that gives its direction.
 
 #include "core/FixedNumberFormat.h"
+#include "core/Localization.h"
+#include "core/LocalizationKeys.h"
 #include "core/OrbTiff.h"
 #include "formats/inspector/LumInfoDataSource.h"
 
@@ -28,7 +30,8 @@ std::string altitudeText(const OrbIFDEntry& e, const OrbTiff& tiff) {
   const OrbIFDEntry* ref = tiff.entryWithIFDTag(5, kGPSIFDID);
   const auto bytes = ref ? ref->valueBytes() : std::span<const std::uint8_t>();
   if (bytes.empty() || bytes[0] > 1) return text;
-  return text + (bytes[0] == 0 ? " above sea level" : " below sea level");
+  const std::string_view side = bytes[0] == 0 ? Localization::keys::kAboveSeaLevel : Localization::keys::kBelowSeaLevel;
+  return text + " " + Localization::localizedString(Localization::kIFDTable, side);
 }
 
 bool isPositionValue(const OrbIFDEntry& e) { return e.type() == kOrbTypeRational && e.dataCount() == 3; }

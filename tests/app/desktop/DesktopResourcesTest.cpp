@@ -17,17 +17,20 @@ namespace {
 
 QString fromView(std::string_view text) { return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())); }
 
-// The source and translation of every message in a .ts file.
+// The source and translation of every message of the "Localizable"
+// context in a .ts file.
 QMap<QString, QString> readTsFile(const QString& path) {
   QMap<QString, QString> messages;
   QFile file(path);
   if (!file.open(QIODevice::ReadOnly)) return messages;
   QXmlStreamReader xml(&file);
-  QString source;
+  QString context, source;
   while (xml.readNextStartElement() || !xml.atEnd()) {
     if (!xml.isStartElement()) continue;
-    if (xml.name() == u"source") source = xml.readElementText();
-    else if (xml.name() == u"translation") messages.insert(source, xml.readElementText());
+    if (xml.name() == u"name") context = xml.readElementText();
+    else if (xml.name() == u"source") source = xml.readElementText();
+    else if (xml.name() == u"translation" && context == QLatin1String(LumLocalized::kContext))
+      messages.insert(source, xml.readElementText());
   }
   return messages;
 }
