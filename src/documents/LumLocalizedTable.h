@@ -12,7 +12,7 @@ struct EnglishFormat {
   std::string_view english;
 };
 
-inline constexpr std::array<EnglishFormat, 9> kEnglishFormats{{
+inline constexpr std::array<EnglishFormat, 11> kEnglishFormats{{
     {"Save Completed:", "Save Completed: %1"},
     {"Save a file Failed.", "Save a file Failed. (%1)"},
     {"Save files Failed.", "Save files Failed. (%1 files)"},
@@ -23,6 +23,8 @@ inline constexpr std::array<EnglishFormat, 9> kEnglishFormats{{
     {"You are opening multiple files.", "You are opening %1 files."},
     {"Loading files", "Loading %1 files..."},
     {"%@ / %lu", "%1 / %2"},
+    {"days", "%1 days"},
+    {"day", "%1 day"},
 }};
 
 }  // namespace LumLocalized
