@@ -22,6 +22,7 @@
 #include <functional>
 
 #include "ScreenshotSession.h"
+#include "ToolShots.h"
 #include "app/AppActions.h"
 #include "app/DialogPrompts.h"
 #include "app/DocumentController.h"
@@ -41,7 +42,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kWaitMs = 20000;
-constexpr int kPictures = 12;
+constexpr int kPictures = 15;
 
 // The program's dialogs, except that a handed-over folder opens in one
 // window without asking.
@@ -235,6 +236,7 @@ int main(int argc, char** argv) {
   shootCloseSheet(stage);
   shootSingleWindow(controller, session, photos / "only-original.jpg");
   shootMixedPicker(session);
+  shootToolWindows(session);
   std::printf("%d pictures in %s\n", session.written(), qPrintable(args[2]));
   for (DocumentWindow* w : controller.windows()) delete w;
   return session.written() == kPictures ? 0 : 1;

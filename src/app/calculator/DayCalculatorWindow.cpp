@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QMouseEvent>
+#include <QHBoxLayout>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -48,7 +49,11 @@ DayCalculatorWindow::DayCalculatorWindow(QWidget* parent, const Instant& now)
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(20, 16, 20, 16);
   layout->setSpacing(12);
-  layout->addLayout(form);
+  auto* centred = new QHBoxLayout;
+  centred->addStretch();
+  centred->addLayout(form);
+  centred->addStretch();
+  layout->addLayout(centred);
   layout->addWidget(result_);
   layout->setSizeConstraint(QLayout::SetFixedSize);  // a fixed size that follows the font
   setMinimumWidth(fontMetrics().horizontalAdvance(QLatin1Char('0')) * 36);
