@@ -37,6 +37,7 @@ void shootToolWindows(Screenshots::Session& session) {
     (void)QTest::qWaitFor([&] { return calculator.palette().color(QPalette::Window).lightness() < 128; });
     session.shoot(QStringLiteral("calculator-dark"), calculator);
     Screenshots::useStableLook(false);
+    (void)QTest::qWaitFor([&] { return calculator.palette().color(QPalette::Window).lightness() >= 128; });
   }
   QWidget frame;
   auto* form = new QFormLayout(&frame);

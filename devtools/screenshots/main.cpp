@@ -103,6 +103,8 @@ void shootDark(Stage& s) {
   waitFor([&] { return s.window.palette().color(QPalette::Window).lightness() < 128; }, "dark colours");
   s.session.shoot(QStringLiteral("multi-dark"), s.window);
   Screenshots::useStableLook(false);
+  // Widgets take the application's palette on a later turn of the event loop.
+  waitFor([&] { return s.window.palette().color(QPalette::Window).lightness() >= 128; }, "light colours");
 }
 
 void shootRangeWarning(Stage& s) {

@@ -53,13 +53,17 @@ void AppearanceTest::decidesTheLook() {
 void AppearanceTest::followsTheDesktopAndComesBack() {
   const QString platformStyle = QApplication::style()->name();
   QVERIFY(!Appearance::isDark());  // the offscreen platform is light
+  QWidget window;
+  window.show();
   Appearance::Follower follower(std::nullopt);
   follower.setDesktopPreference(Preference::Dark);
   QCOMPARE(follower.look(), Look::FusionDark);
   QVERIFY(Appearance::isDark());
+  QTRY_VERIFY(Appearance::isDark(window.palette()));
   QCOMPARE(QApplication::style()->name(), QStringLiteral("fusion"));
   follower.setDesktopPreference(Preference::None);
   QVERIFY(!Appearance::isDark());
+  QTRY_VERIFY(!Appearance::isDark(window.palette()));  // the windows follow back to light
   QCOMPARE(QApplication::style()->name(), platformStyle);
 }
 

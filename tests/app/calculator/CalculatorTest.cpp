@@ -48,7 +48,7 @@ void CalculatorTest::startsAtTodayWithNoDays() {
   for (DatePickerWidget* picker : {&window.picker1(), &window.picker2()}) {
     const OrbDatePicker& model = picker->model();
     QCOMPARE(QDate(int(model.year()), int(model.month()), int(model.day())), QDate(2026, 11, 24));
-    QVERIFY(picker->fieldEditor(Control::hourField) == nullptr || !picker->fieldEditor(Control::hourField)->isVisible());
+    QVERIFY(!picker->fieldEditor(Control::hourField));  // dates only
   }
   QCOMPARE(window.result(), QStringLiteral("0 days"));
 }
