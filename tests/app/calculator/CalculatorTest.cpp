@@ -2,9 +2,11 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include "app/ToolWindows.h"
 #include "app/calculator/DayCalculatorWindow.h"
 #include "app/widgets/DatePickerWidget.h"
 #include "app/widgets/PickerFieldEditor.h"
+#include "app/support/AppFixture.h"
 #include "datetime/DateAdditions.h"
 
 using Control = OrbDatePicker::Control;
@@ -39,6 +41,7 @@ class CalculatorTest : public QObject {
   void startsAtTodayWithNoDays();
   void countsDaysBetweenTypedDates_data();
   void countsDaysBetweenTypedDates();
+  void keepsItsDatesBetweenOpenings();
 };
 
 void CalculatorTest::startsAtTodayWithNoDays() {
@@ -76,6 +79,23 @@ void CalculatorTest::countsDaysBetweenTypedDates() {
   QVERIFY(typeDate(window.picker1(), first));
   QVERIFY(typeDate(window.picker2(), second));
   QCOMPARE(window.result(), shown);
+}
+
+void CalculatorTest::keepsItsDatesBetweenOpenings() {
+  AppFixture app;
+  ToolWindows tools(app.context, [] { return nullptr; });
+  app.actions.dayCalculator->trigger();
+  DayCalculatorWindow& window = tools.dayCalculator();
+  QVERIFY(QTest::qWaitForWindowExposed(&window));
+  QVERIFY(typeDate(window.picker1(), QDate(2000, 1, 1)));
+  const QString shown = window.result();
+  QVERIFY(shown != QStringLiteral("0 days"));
+  window.close();
+  app.actions.dayCalculator->trigger();
+  QCOMPARE(&tools.dayCalculator(), &window);
+  QVERIFY(window.isVisible());
+  QCOMPARE(window.result(), shown);
+  QCOMPARE(window.picker1().model().year(), 2000L);
 }
 
 QTEST_MAIN(CalculatorTest)
