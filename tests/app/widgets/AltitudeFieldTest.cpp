@@ -86,8 +86,6 @@ void AltitudeFieldTest::buttonCanBeHiddenAndWired() {
   Stage s;
   QToolButton* button = s.field->getAltitudeButton();
   QVERIFY(button->isVisible());
-  QVERIFY(!button->toolTip().isEmpty());
-  QCOMPARE(button->accessibleName(), button->toolTip());
   s.field->setButtonAppeared(false);
   QVERIFY(!button->isVisible());
   s.field->setButtonAppeared(true);
