@@ -108,8 +108,10 @@ void Follower::apply(Look look) {
 void Follower::listenToDesktop() {
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) return;
+  // The slot is found by its signature, whose types must be known by name.
+  qRegisterMetaType<QDBusVariant>();
   bus.connect(kPortalService, kPortalPath, kSettingsInterface, QStringLiteral("SettingChanged"), this,
-              SLOT(portalSettingChanged(QString, QString, QDBusVariant)));
+              SLOT(portalSettingChanged(QString,QString,QDBusVariant)));
   // Asked without waiting: the answer applies when it comes.
   QDBusMessage read = QDBusMessage::createMethodCall(kPortalService, kPortalPath, kSettingsInterface,
                                                      QStringLiteral("Read"));

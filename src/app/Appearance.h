@@ -13,13 +13,12 @@
 // theme), the program draws itself with Fusion and a dark palette of its own.
 // LUMIDATE_APPEARANCE=dark or light overrides the desktop, for testing.
 
+#include <QDBusVariant>
 #include <QObject>
 #include <QPalette>
 #include <QString>
 
 #include <optional>
-
-class QDBusVariant;
 
 namespace Appearance {
 

@@ -1,7 +1,9 @@
 // Following the desktop's light or dark preference: the decision from the
 // portal's value, the platform's palette and the override, and what the
-// application draws with once it is applied. No session bus is involved.
+// application draws with once it is applied. One case talks to a stand-in
+// portal on a private session bus; run-fake-portal starts it.
 #include <QApplication>
+#include <QDBusConnection>
 #include <QStyle>
 #include <QTest>
 
@@ -19,6 +21,7 @@ class AppearanceTest : public QObject {
   void decidesTheLook_data();
   void decidesTheLook();
   void followsTheDesktopAndComesBack();
+  void readsAndFollowsThePortal();
 };
 
 void AppearanceTest::decidesTheLook_data() {
@@ -65,6 +68,18 @@ void AppearanceTest::followsTheDesktopAndComesBack() {
   QVERIFY(!Appearance::isDark());
   QTRY_VERIFY(!Appearance::isDark(window.palette()));  // the windows follow back to light
   QCOMPARE(QApplication::style()->name(), platformStyle);
+}
+
+void AppearanceTest::readsAndFollowsThePortal() {
+  // Only against the stand-in: a real desktop's answer depends on its user.
+  if (qEnvironmentVariable("LUMIDATE_FAKE_PORTAL") != QLatin1String("1"))
+    QSKIP("needs the stand-in portal of run-fake-portal");
+  QVERIFY(QDBusConnection::sessionBus().isConnected());
+  Appearance::Follower follower(std::nullopt);
+  follower.listenToDesktop();
+  // The stand-in answers "prefer dark", then announces "no preference".
+  QTRY_COMPARE_WITH_TIMEOUT(follower.look(), Look::FusionDark, 5000);
+  QTRY_COMPARE_WITH_TIMEOUT(follower.look(), Look::Platform, 5000);
 }
 
 QTEST_MAIN(AppearanceTest)
