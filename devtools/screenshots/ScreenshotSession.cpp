@@ -11,29 +11,11 @@
 
 #include <algorithm>
 
+#include "app/Appearance.h"
+
 namespace Screenshots {
 
 namespace {
-
-QPalette darkPalette() {
-  QPalette p;
-  const QColor window(0x2b, 0x2d, 0x31), base(0x1e, 0x1f, 0x22), text(0xe6, 0xe6, 0xe6);
-  p.setColor(QPalette::Window, window);
-  p.setColor(QPalette::WindowText, text);
-  p.setColor(QPalette::Base, base);
-  p.setColor(QPalette::AlternateBase, window);
-  p.setColor(QPalette::Text, text);
-  p.setColor(QPalette::Button, window);
-  p.setColor(QPalette::ButtonText, text);
-  p.setColor(QPalette::ToolTipBase, base);
-  p.setColor(QPalette::ToolTipText, text);
-  p.setColor(QPalette::Highlight, QColor(0x35, 0x74, 0xc6));
-  p.setColor(QPalette::HighlightedText, Qt::white);
-  p.setColor(QPalette::PlaceholderText, QColor(0x8a, 0x8d, 0x93));
-  for (auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-    p.setColor(QPalette::Disabled, role, QColor(0x7a, 0x7d, 0x83));
-  return p;
-}
 
 // Where overlay stands inside window, or centred near the top when the
 // platform placed it elsewhere.
@@ -51,7 +33,7 @@ void useStableLook(bool dark) {
   QFont font(QStringLiteral("DejaVu Sans"));
   font.setPointSize(9);
   QApplication::setFont(font);
-  QApplication::setPalette(dark ? darkPalette() : QApplication::style()->standardPalette());
+  QApplication::setPalette(dark ? Appearance::darkPalette() : QApplication::style()->standardPalette());
 }
 
 Session::Session(QDir outputDir) : outputDir_(std::move(outputDir)) { outputDir_.mkpath(QStringLiteral(".")); }

@@ -25,6 +25,7 @@
 #include "JapaneseShots.h"
 #include "ScreenshotSession.h"
 #include "ViewerShots.h"
+#include "ToolShots.h"
 #include "app/AppActions.h"
 #include "app/DialogPrompts.h"
 #include "app/DocumentController.h"
@@ -44,7 +45,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kWaitMs = 20000;
-constexpr int kPictures = 18;
+constexpr int kPictures = 21;
 
 // The program's dialogs, except that a handed-over folder opens in one
 // window without asking.
@@ -105,6 +106,8 @@ void shootDark(Stage& s) {
   waitFor([&] { return s.window.palette().color(QPalette::Window).lightness() < 128; }, "dark colours");
   s.session.shoot(QStringLiteral("multi-dark"), s.window);
   Screenshots::useStableLook(false);
+  // Widgets take the application's palette on a later turn of the event loop.
+  waitFor([&] { return s.window.palette().color(QPalette::Window).lightness() >= 128; }, "light colours");
 }
 
 void shootRangeWarning(Stage& s) {
@@ -240,6 +243,7 @@ int main(int argc, char** argv) {
   shootMixedPicker(session);
   Screenshots::shootInspector(controller, context, session, photos / "gps-summit.jpg");
   Screenshots::shootViewer(session, settings, photos);
+  shootToolWindows(session);
   for (DocumentWindow* w : controller.windows()) delete w;
   Screenshots::shootInJapanese(photos, session);
   std::printf("%d pictures in %s\n", session.written(), qPrintable(args[2]));

@@ -2680,6 +2680,22 @@
         <source>Multiple Values</source>
         <translation>Multiple Values</translation>
     </message>
+    <message>
+        <source>days</source>
+        <translation>%1 days</translation>
+    </message>
+    <message>
+        <source>day</source>
+        <translation>%1 day</translation>
+    </message>
+    <message>
+        <source>Day Count Calculator</source>
+        <translation>Day Count Calculator</translation>
+    </message>
+    <message>
+        <source>Retrieve altitude value from the Geospatial Information Authority of Japan.</source>
+        <translation>Retrieve altitude value from the Geospatial Information Authority of Japan.</translation>
+    </message>
 </context>
 <context>
     <name>MultiFileActions</name>

@@ -2,7 +2,6 @@
 // English formats of the keys that take arguments. A key not listed here is
 // shown as it is.
 
-#include <array>
 #include <string_view>
 
 namespace LumLocalized {
@@ -12,7 +11,7 @@ struct EnglishFormat {
   std::string_view english;
 };
 
-inline constexpr std::array<EnglishFormat, 11> kEnglishFormats{{
+inline constexpr EnglishFormat kEnglishFormats[] = {
     {"Save Completed:", "Save Completed: %1"},
     {"Save a file Failed.", "Save a file Failed. (%1)"},
     {"Save files Failed.", "Save files Failed. (%1 files)"},
@@ -25,6 +24,8 @@ inline constexpr std::array<EnglishFormat, 11> kEnglishFormats{{
     {"%@ / %lu", "%1 / %2"},
     {"%ld x %ld", "%1 x %2"},
     {", %@", ", %1"},
-}};
+    {"days", "%1 days"},
+    {"day", "%1 day"},
+};
 
 }  // namespace LumLocalized

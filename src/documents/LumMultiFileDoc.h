@@ -22,6 +22,7 @@
 
 #include "documents/BatchFlush.h"
 #include "documents/DateTargets.h"
+#include "documents/LumDocumentAppearance.h"
 #include "documents/DateTextRules.h"
 #include "documents/FieldLimits.h"
 #include "documents/InPlaceWriter.h"
@@ -38,7 +39,7 @@ struct LumSaveOutcome {
   bool quitApp = false;
 };
 
-class LumMultiFileDoc : public QObject {
+class LumMultiFileDoc : public QObject, public LumDocumentAppearance {
   Q_OBJECT
 
  public:

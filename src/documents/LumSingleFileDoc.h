@@ -32,12 +32,16 @@
 #include "datetime/Instant.h"
 #include "datetime/OrbDatePicker.h"
 #include "documents/DateTargets.h"
+#include "documents/LumDocumentAppearance.h"
 #include "documents/InPlaceWriter.h"
 #include "formats/LumImageFile.h"
 
 class LumCTISheet;
 
-class LumSingleFileDoc : public QObject, public LumImageFileOwner, private OrbDatePicker::Delegate {
+class LumSingleFileDoc : public QObject,
+                         public LumImageFileOwner,
+                         public LumDocumentAppearance,
+                         private OrbDatePicker::Delegate {
   Q_OBJECT
 
  public:

@@ -12,6 +12,7 @@
 #include <QVBoxLayout>
 
 #include "app/AppActions.h"
+#include "app/Appearance.h"
 #include "app/MenuBar.h"
 #include "app/Prompts.h"
 #include "app/multi/ChangeControls.h"
@@ -36,6 +37,7 @@ constexpr std::array<int, FileTableModel::ColumnCount> kInitialWidths{48, 220, 1
 
 MultiFileWindow::MultiFileWindow(std::unique_ptr<LumMultiFileDoc> document, AppContext& context, QWidget* parent)
     : DocumentWindow(context, parent), document_(std::move(document)) {
+  document_->setDarkMode(Appearance::isDark());
   setMinimumSize(705, 480);
   resize(900, 600);
   buildLayout();
@@ -248,6 +250,7 @@ void MultiFileWindow::saveAllForClose(bool quitting) {
 
 void MultiFileWindow::changeEvent(QEvent* event) {
   DocumentWindow::changeEvent(event);
+  if (event->type() == QEvent::ApplicationPaletteChange) document_->appEffectiveAppearanceDidChange(Appearance::isDark());
   // The inspector follows the file selected in the active window.
   if (event->type() == QEvent::ActivationChange && isActiveWindow())
     document_->setSelectedRows(document_->selectedRows(), true);

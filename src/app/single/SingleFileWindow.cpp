@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "app/AppActions.h"
+#include "app/Appearance.h"
 #include "app/MenuBar.h"
 #include "app/Prompts.h"
 #include "app/sheets/ChangeByIntervalSheet.h"
@@ -36,6 +37,7 @@ QPushButton* makeButton(const QString& text, const char* name, QWidget* parent) 
 
 SingleFileWindow::SingleFileWindow(std::unique_ptr<LumSingleFileDoc> document, AppContext& context, QWidget* parent)
     : DocumentWindow(context, parent), document_(std::move(document)) {
+  document_->setDarkMode(Appearance::isDark());
   setObjectName("singleFileWindow");
   const std::filesystem::path path = document_->fileURL().value_or(std::filesystem::path());
   setWindowTitle(QString::fromStdString(path.filename().string()) + QStringLiteral("[*]"));
@@ -179,6 +181,7 @@ void SingleFileWindow::saveFinished(const LumSingleFileDoc::SaveOutcome& outcome
 
 void SingleFileWindow::changeEvent(QEvent* event) {
   DocumentWindow::changeEvent(event);
+  if (event->type() == QEvent::ApplicationPaletteChange) document_->appEffectiveAppearanceDidChange(Appearance::isDark());
   if (event->type() == QEvent::ActivationChange && isActiveWindow()) document_->windowDidBecomeMain();
 }
 

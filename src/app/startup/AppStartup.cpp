@@ -10,6 +10,7 @@
 
 #include "app/AppActions.h"
 #include "app/AppContext.h"
+#include "app/Appearance.h"
 #include "app/ToolWindows.h"
 #include "app/DocumentController.h"
 #include "app/DocumentWindow.h"
@@ -83,6 +84,7 @@ bool AppStartup::start() {
   QApplication::setWindowIcon(
       QIcon::fromTheme(QStringLiteral("org.lumidate.Lumidate"), QIcon(QStringLiteral(":/icons/lumidate-256.png"))));
   Translations::install(*QCoreApplication::instance());
+  Appearance::followDesktop();
   store_ = std::make_unique<QSettings>();
   settings_ = std::make_unique<Settings>(*store_);
   settings_->registerDefaults();

@@ -1,0 +1,103 @@
+// The altitude field: its embedded button's place, the text kept out of it,
+// focus order and showing or hiding the button.
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QTest>
+
+#include "app/widgets/BusyIndicator.h"
+#include "app/widgets/OrbAltitudeGetterField.h"
+
+namespace {
+
+// A field in a window between two other fields, shown and active.
+struct Stage {
+  QWidget window;
+  QLineEdit* before = new QLineEdit(&window);
+  OrbAltitudeGetterField* field = new OrbAltitudeGetterField(&window);
+  QLineEdit* after = new QLineEdit(&window);
+
+  Stage() {
+    auto* layout = new QHBoxLayout(&window);
+    for (QWidget* w : {static_cast<QWidget*>(before), static_cast<QWidget*>(field), static_cast<QWidget*>(after)})
+      layout->addWidget(w);
+    window.show();
+    window.activateWindow();
+  }
+};
+
+}  // namespace
+
+class AltitudeFieldTest : public QObject {
+  Q_OBJECT
+
+ private slots:
+  void buttonStaysAtTheRightEdge_data();
+  void buttonStaysAtTheRightEdge();
+  void typedTextStopsShortOfTheButton();
+  void tabMovesFromTheTextToTheButton();
+  void buttonCanBeHiddenAndWired();
+};
+
+void AltitudeFieldTest::buttonStaysAtTheRightEdge_data() {
+  QTest::addColumn<QSize>("size");
+  QTest::newRow("narrow") << QSize(80, 24);
+  QTest::newRow("wide and tall") << QSize(300, 40);
+}
+
+void AltitudeFieldTest::buttonStaysAtTheRightEdge() {
+  QFETCH(QSize, size);
+  OrbAltitudeGetterField field;
+  field.resize(size);
+  field.show();
+  const QRect button = field.getAltitudeButton()->geometry();
+  QCOMPARE(button.size(), QSize(20, 20));
+  QCOMPARE(button.right(), size.width() - 1 - 2);  // a gap of 2 to the edge
+  QCOMPARE(button.center().y(), QRect(QPoint(), size).center().y());
+  QCOMPARE(field.indicator()->geometry().center(), button.center());
+  QVERIFY(field.indicator()->isHidden());
+}
+
+void AltitudeFieldTest::typedTextStopsShortOfTheButton() {
+  Stage s;
+  QVERIFY(QTest::qWaitForWindowActive(&s.window));
+  s.field->setFocus();
+  QTest::keyClicks(s.field, QString(60, u'8'));
+  s.field->end(false);
+  s.field->repaint();  // the line edit scrolls its text when it paints
+  const QRect cursor = s.field->inputMethodQuery(Qt::ImCursorRectangle).toRect();
+  // The caret stands in the middle of the rectangle the field reports.
+  QVERIFY2(cursor.center().x() < s.field->getAltitudeButton()->geometry().left(), "the text runs under the button");
+}
+
+void AltitudeFieldTest::tabMovesFromTheTextToTheButton() {
+  Stage s;
+  QVERIFY(QTest::qWaitForWindowActive(&s.window));
+  QCOMPARE(s.field->firstKeyView(), s.field);
+  QCOMPARE(s.field->lastKeyView(), s.field->getAltitudeButton());
+  s.field->setFocus(Qt::TabFocusReason);
+  QTRY_VERIFY(s.field->hasFocus());
+  QTest::keyClick(s.field, Qt::Key_Tab);
+  QTRY_VERIFY(s.field->getAltitudeButton()->hasFocus());
+  QTest::keyClick(s.field->getAltitudeButton(), Qt::Key_Tab);
+  QTRY_VERIFY(s.after->hasFocus());
+}
+
+void AltitudeFieldTest::buttonCanBeHiddenAndWired() {
+  Stage s;
+  QToolButton* button = s.field->getAltitudeButton();
+  QVERIFY(button->isVisible());
+  s.field->setButtonAppeared(false);
+  QVERIFY(!button->isVisible());
+  s.field->setButtonAppeared(true);
+  QVERIFY(button->isVisible());
+  // Wiring replaces the earlier action: one press, one call of the last.
+  int first = 0, second = 0;
+  s.field->setButtonAction(&s.window, [&first] { ++first; });
+  s.field->setButtonAction(&s.window, [&second] { ++second; });
+  button->click();
+  QCOMPARE(first, 0);
+  QCOMPARE(second, 1);
+}
+
+QTEST_MAIN(AltitudeFieldTest)
+#include "AltitudeFieldTest.moc"
