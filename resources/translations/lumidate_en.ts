@@ -125,6 +125,25 @@
     </message>
 </context>
 <context>
+    <name>DayCalculatorWindow</name>
+    <message>
+        <source>First date:</source>
+        <translation>First date:</translation>
+    </message>
+    <message>
+        <source>First date</source>
+        <translation>First date</translation>
+    </message>
+    <message>
+        <source>Second date:</source>
+        <translation>Second date:</translation>
+    </message>
+    <message>
+        <source>Second date</source>
+        <translation>Second date</translation>
+    </message>
+</context>
+<context>
     <name>IFD</name>
     <message>
         <source>Byte Order</source>
@@ -2431,6 +2450,39 @@
     </message>
 </context>
 <context>
+    <name>ImageWindow</name>
+    <message>
+        <source>Picture</source>
+        <translation>Picture</translation>
+    </message>
+    <message>
+        <source>Information Text</source>
+        <translation>Information Text</translation>
+    </message>
+</context>
+<context>
+    <name>InfoTableModel</name>
+    <message>
+        <source>Tag</source>
+        <translation>Tag</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Value</translation>
+    </message>
+</context>
+<context>
+    <name>InfoWindow</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Edit</translation>
+    </message>
+</context>
+<context>
     <name>Localizable</name>
     <message>
         <source>Backward</source>
@@ -2760,6 +2812,13 @@
     <message>
         <source>All Files (*)</source>
         <translation>All Files (*)</translation>
+    </message>
+</context>
+<context>
+    <name>OrbAltitudeGetterField</name>
+    <message>
+        <source>Altitude</source>
+        <translation>Altitude</translation>
     </message>
 </context>
 <context>

@@ -125,6 +125,25 @@
     </message>
 </context>
 <context>
+    <name>DayCalculatorWindow</name>
+    <message>
+        <source>First date:</source>
+        <translation>最初の日付:</translation>
+    </message>
+    <message>
+        <source>First date</source>
+        <translation>最初の日付</translation>
+    </message>
+    <message>
+        <source>Second date:</source>
+        <translation>2番目の日付:</translation>
+    </message>
+    <message>
+        <source>Second date</source>
+        <translation>2番目の日付</translation>
+    </message>
+</context>
+<context>
     <name>IFD</name>
     <message>
         <source>Byte Order</source>
@@ -2431,6 +2450,39 @@
     </message>
 </context>
 <context>
+    <name>ImageWindow</name>
+    <message>
+        <source>Picture</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>Information Text</source>
+        <translation>情報テキスト</translation>
+    </message>
+</context>
+<context>
+    <name>InfoTableModel</name>
+    <message>
+        <source>Tag</source>
+        <translation>タグ</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+</context>
+<context>
+    <name>InfoWindow</name>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>編集(&amp;E)</translation>
+    </message>
+</context>
+<context>
     <name>Localizable</name>
     <message>
         <source>Save Completed:</source>
@@ -2664,6 +2716,38 @@
         <source>Show Information</source>
         <translation>情報を表示</translation>
     </message>
+    <message>
+        <source>%ld x %ld</source>
+        <translation>%1 x %2</translation>
+    </message>
+    <message>
+        <source>, %@</source>
+        <translation>、%1</translation>
+    </message>
+    <message>
+        <source>days</source>
+        <translation>%1 日</translation>
+    </message>
+    <message>
+        <source>day</source>
+        <translation>%1 日</translation>
+    </message>
+    <message>
+        <source>Day Count Calculator</source>
+        <translation>日数計算機</translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>情報</translation>
+    </message>
+    <message>
+        <source>Lumidate</source>
+        <translation>Lumidate</translation>
+    </message>
+    <message>
+        <source>Retrieve altitude value from the Geospatial Information Authority of Japan.</source>
+        <translation>国土地理院から標高値を取得します。</translation>
+    </message>
 </context>
 <context>
     <name>MultiFileActions</name>
@@ -2728,6 +2812,13 @@
     <message>
         <source>All Files (*)</source>
         <translation>すべてのファイル (*)</translation>
+    </message>
+</context>
+<context>
+    <name>OrbAltitudeGetterField</name>
+    <message>
+        <source>Altitude</source>
+        <translation>高度</translation>
     </message>
 </context>
 <context>

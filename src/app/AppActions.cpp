@@ -38,7 +38,7 @@ AppActions::AppActions(QUndoGroup& undoGroup, QObject* parent) : QObject(parent)
     listSize->addAction(action);
   }
 
-  showInformation = makeAction(this, tr("Show Information"), QKeySequence(Qt::CTRL | Qt::Key_I));
+  showInformation = makeAction(this, tr("Show Information"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_I));
   showImageView = makeAction(this, tr("Image Viewer"));
   dayCalculator = makeAction(this, tr("Day Count Calculator"));
   about = makeAction(this, tr("&About Lumidate"));
