@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QLocale>
 #include <QSettings>
+#include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QUndoGroup>
@@ -13,6 +14,9 @@
 #include "app/AppActions.h"
 #include "app/DialogPrompts.h"
 #include "app/DocumentController.h"
+#include "app/ToolWindows.h"
+#include "app/calculator/DayCalculatorWindow.h"
+#include "app/inspector/InfoWindow.h"
 #include "app/multi/MultiFileWindow.h"
 #include "app/preferences/Settings.h"
 #include "app/single/PhotoView.h"
@@ -88,6 +92,22 @@ int shootInJapanese(const fs::path& folder, Session& session) {
     written += !session.shoot(QStringLiteral("single-ja"), *window).isEmpty();
   }
   closeAll(controller);
+
+  // The inspector's tag titles and coded words, and a tool window.
+  controller.openFiles({folder / "gps-summit.jpg"}, false);
+  if (auto* window = openedWindow<SingleFileWindow>(controller)) {
+    ToolWindows tools(context, [window]() -> DocumentWindow* { return window; });
+    tools.toggleInspector();
+    InfoWindow& info = tools.inspector();
+    info.resize(520, 600);
+    if (waitFor([&] { return info.table().model()->rowCount() > 0; }, "the inspector"))
+      written += !session.shoot(QStringLiteral("inspector-ja"), info).isEmpty();
+    tools.toggleInspector();
+  }
+  closeAll(controller);
+  DayCalculatorWindow calculator;
+  calculator.show();
+  written += !session.shoot(QStringLiteral("calculator-ja"), calculator).isEmpty();
   return written;
 }
 

@@ -45,7 +45,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr int kWaitMs = 20000;
-constexpr int kPictures = 21;
+constexpr int kPictures = 23;
 
 // The program's dialogs, except that a handed-over folder opens in one
 // window without asking.

@@ -1641,6 +1641,14 @@
         <source>below sea level</source>
         <translation>below sea level</translation>
     </message>
+    <message>
+        <source>Above Sea Level</source>
+        <translation>Above Sea Level</translation>
+    </message>
+    <message>
+        <source>Below Sea Level</source>
+        <translation>Below Sea Level</translation>
+    </message>
 </context>
 <context>
     <name>IPTC</name>

@@ -1641,6 +1641,14 @@
         <source>below sea level</source>
         <translation>(海面下)</translation>
     </message>
+    <message>
+        <source>Above Sea Level</source>
+        <translation>海面より上</translation>
+    </message>
+    <message>
+        <source>Below Sea Level</source>
+        <translation>海面より下</translation>
+    </message>
 </context>
 <context>
     <name>IPTC</name>

@@ -11,6 +11,7 @@
 #include "core/CodedWords.h"
 #include "core/FixedNumberFormat.h"
 #include "core/GPSMath.h"
+#include "core/LocalizationKeys.h"
 #include "core/OrbIFDEntry.h"
 #include "core/OrbIFDTimeStamp.h"
 
@@ -175,7 +176,8 @@ std::optional<OrbDataObject> gpsText(const OrbIFDEntry& e) {
     case 5: {
       const auto bytes = e.valueBytes();
       if (bytes.size() != 1 || bytes[0] > 1) return std::nullopt;
-      return OrbDataObject(bytes[0] == 0 ? "Above Sea Level" : "Below Sea Level");
+      return OrbDataObject(std::string(bytes[0] == 0 ? Localization::keys::kAboveSeaLevelReference
+                                                      : Localization::keys::kBelowSeaLevelReference));
     }
     case 6:
       if (e.type() != kOrbTypeRational) return std::nullopt;

@@ -17,9 +17,13 @@ inline constexpr std::string_view kPhotographicSensitivity = "Photographic Sensi
 // Appended to a GPS altitude after its number.
 inline constexpr std::string_view kAboveSeaLevel = "above sea level";
 inline constexpr std::string_view kBelowSeaLevel = "below sea level";
+// The words of the GPS altitude reference.
+inline constexpr std::string_view kAboveSeaLevelReference = "Above Sea Level";
+inline constexpr std::string_view kBelowSeaLevelReference = "Below Sea Level";
 
 inline constexpr std::array kIFDWords{kUnknown, kLittleEndian, kBigEndian, kPhotographicSensitivity,
-                                      kAboveSeaLevel, kBelowSeaLevel};
+                                      kAboveSeaLevel, kBelowSeaLevel, kAboveSeaLevelReference,
+                                      kBelowSeaLevelReference};
 
 // Table "IPTC".
 inline constexpr std::string_view kIPTCInformationInterchangeModel = "IPTC Information Interchange Model";
