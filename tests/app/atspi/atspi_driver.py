@@ -10,7 +10,9 @@ deadline makes a hung program a failure instead of a stuck test.
 """
 
 import os
+import shutil
 import subprocess
+import tempfile
 import time
 
 import gi
@@ -110,6 +112,31 @@ def start_private(argv, work):
     os.makedirs(runtime, mode=0o700)
     return App(argv, env={"HOME": home, "XDG_CONFIG_HOME": os.path.join(home, ".config"),
                           "XDG_RUNTIME_DIR": runtime})
+
+
+def quit_app(app):
+    """File > Quit, then the program must end cleanly."""
+    run_menu(app, "File", "Quit")
+    if app.wait_exit() != 0:
+        raise DriverError(f"lumidate exited with {app.process.returncode}")
+
+
+def run_on_copy(lumidate, source, drive, done):
+    """Starts lumidate privately on a copy of the photo source, runs
+    drive(app), and prints done with the time it took."""
+    started = time.monotonic()
+    work = tempfile.mkdtemp(prefix="lumidate-atspi-")
+    try:
+        photo = os.path.join(work, os.path.basename(source))
+        shutil.copyfile(source, photo)
+        app = start_private([lumidate, photo], work)
+        try:
+            drive(app)
+        finally:
+            app.kill()
+    finally:
+        shutil.rmtree(work, ignore_errors=True)
+    print(f"{done}: OK ({time.monotonic() - started:.1f} s)")
 
 
 def role_name(role):

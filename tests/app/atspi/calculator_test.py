@@ -6,11 +6,7 @@ their names, the result through its text.
 usage: calculator_test.py LUMIDATE PHOTO
 """
 
-import os
-import shutil
 import sys
-import tempfile
-import time
 
 import pyatspi
 
@@ -29,26 +25,11 @@ def drive(app):
         calculator, lambda n: n.getRole() == pyatspi.ROLE_LABEL and "day" in (n.name or "")))
     if result.name != "0 days":
         raise d.DriverError(f"the result reads '{result.name}'")
-    d.run_menu(app, "File", "Quit")
-    if app.wait_exit() != 0:
-        raise d.DriverError(f"lumidate exited with {app.process.returncode}")
+    d.quit_app(app)
 
 
 def main(lumidate, source):
-    started = time.monotonic()
-    work = tempfile.mkdtemp(prefix="lumidate-atspi-")
-    try:
-        photo = os.path.join(work, os.path.basename(source))
-        shutil.copyfile(source, photo)
-        app = d.start_private([lumidate, photo], work)
-        try:
-            drive(app)
-        finally:
-            app.kill()
-    finally:
-        shutil.rmtree(work, ignore_errors=True)
-    print(f"the day count calculator opened from the menu reads '0 days': OK "
-          f"({time.monotonic() - started:.1f} s)")
+    d.run_on_copy(lumidate, source, drive, "the day count calculator opened from the menu reads '0 days'")
 
 
 if __name__ == "__main__":

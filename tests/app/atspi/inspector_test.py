@@ -6,11 +6,7 @@ The menu item then reads "Hide Information"; choosing it hides the window.
 usage: inspector_test.py LUMIDATE PHOTO
 """
 
-import os
-import shutil
 import sys
-import tempfile
-import time
 
 import pyatspi
 
@@ -35,25 +31,11 @@ def drive(app):
                  lambda: not info.getState().contains(pyatspi.STATE_SHOWING)
                  or not info.getState().contains(pyatspi.STATE_VISIBLE))
     d.menu_item(app, "View", "Show Information")
-    d.run_menu(app, "File", "Quit")
-    if app.wait_exit() != 0:
-        raise d.DriverError(f"lumidate exited with {app.process.returncode}")
+    d.quit_app(app)
 
 
 def main(lumidate, source):
-    started = time.monotonic()
-    work = tempfile.mkdtemp(prefix="lumidate-atspi-")
-    try:
-        photo = os.path.join(work, os.path.basename(source))
-        shutil.copyfile(source, photo)
-        app = d.start_private([lumidate, photo], work)
-        try:
-            drive(app)
-        finally:
-            app.kill()
-    finally:
-        shutil.rmtree(work, ignore_errors=True)
-    print(f"the inspector's cells read through AT-SPI: OK ({time.monotonic() - started:.1f} s)")
+    d.run_on_copy(lumidate, source, drive, "the inspector's cells read through AT-SPI")
 
 
 if __name__ == "__main__":

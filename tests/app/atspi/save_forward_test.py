@@ -51,9 +51,7 @@ def drive(app):
     d.press(save_all)
     # Save All is enabled while some file is edited: disabled again, the save is over.
     d.wait_until("the save to finish", lambda: not d.is_enabled(save_all), timeout=30)
-    d.run_menu(app, "File", "Quit")
-    if app.wait_exit() != 0:
-        raise d.DriverError(f"lumidate exited with {app.process.returncode}")
+    d.quit_app(app)
 
 
 def check_bytes(before, after, name):

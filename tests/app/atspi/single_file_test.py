@@ -52,9 +52,7 @@ def drive(app, hour):
     d.press(save)
     # Save is enabled while the photo is edited: disabled again, the save is over.
     d.wait_until("the save to finish", lambda: not d.is_enabled(save), timeout=30)
-    d.run_menu(app, "File", "Quit")
-    if app.wait_exit() != 0:
-        raise d.DriverError(f"lumidate exited with {app.process.returncode}")
+    d.quit_app(app)
 
 
 def main(lumidate, source):
