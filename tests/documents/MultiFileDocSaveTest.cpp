@@ -1,6 +1,4 @@
-#include <QEventLoop>
 #include <QSignalSpy>
-#include <QTimer>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -32,20 +30,8 @@ struct SaveFixture : ::testing::Test {
   std::unique_ptr<Doc> doc;
 
   void SetUp() override { ensureApplication(); }
-  void open(const std::vector<std::pair<std::string, PhotoDates>>& photos) {
-    std::vector<std::unique_ptr<LumFileItemDoc>> items;
-    for (const auto& [name, dates] : photos) items.push_back(openItem(writePhoto(folder, name, dates)));
-    doc = std::make_unique<Doc>(std::move(items));
-  }
-  LumSaveOutcome save(bool all = true) {
-    LumSaveOutcome outcome;
-    QEventLoop loop;
-    QObject::connect(doc.get(), &Doc::saveFinished, &loop, [&](const LumSaveOutcome& o) { outcome = o, loop.quit(); });
-    QTimer::singleShot(20000, &loop, &QEventLoop::quit);
-    EXPECT_TRUE(doc->saveFileAll(all, false, false));
-    if (doc->isSaving()) loop.exec();
-    return outcome;
-  }
+  void open(const std::vector<std::pair<std::string, PhotoDates>>& photos) { doc = openPhotos(folder, photos); }
+  LumSaveOutcome save(bool all = true) { return saveAndWait(*doc, all).value_or(LumSaveOutcome{}); }
   LumFileItemDoc& item(const std::string& name) { return *doc->itemForURL(folder / name); }
   void type(const std::string& name, const char* column, const char* text) {
     doc->controlTextDidEndEditing(*doc->rowOf(&item(name)), column, text, false);
