@@ -123,11 +123,9 @@ TEST_F(SaveFixture, FailedFilesAreReportedInRowOrderWithTheirReasonWhileTheOther
 TEST_F(SaveFixture, OnePhotoOpenedUnderTwoNamesNeverLosesAChangeReportedAsSaved) {
   // "b.jpg" is a second name of "a.jpg". Row a changes the first and last
   // dates (one run of bytes across the middle one), row b the middle one.
-  open({{"a.jpg", {kA, kA, kA}}});
-  fs::create_hard_link(folder / "a.jpg", folder / "b.jpg");
-  std::vector<std::unique_ptr<LumFileItemDoc>> items;
-  for (const char* name : {"a.jpg", "b.jpg"}) items.push_back(openItem(folder / name));
-  doc = std::make_unique<Doc>(std::move(items));
+  fs::create_hard_link(writePhoto(folder, "a.jpg", {kA, kA, kA}), folder / "b.jpg");
+  doc = openDocument({folder / "a.jpg", folder / "b.jpg"});
+  ASSERT_EQ(doc->rowCount(), 2);
   type("a.jpg", "DateTimeOriginal", "2001:01:01 01:01:01");
   type("a.jpg", "DateTime", "2003:03:03 03:03:03");
   type("b.jpg", "DateTimeDigitized", "2002:02:02 02:02:02");

@@ -106,7 +106,8 @@ TEST(ShiftConformance, RealFilesShiftForwardAndBack) {
           !before["value"].get<std::string>().starts_with(kept.get<std::string>()))
         continue;
       ASSERT_TRUE(entry->contains(kExiftoolNames[i])) << kExiftoolNames[i];
-      EXPECT_TRUE((*entry)[kExiftoolNames[i]].get<std::string>().starts_with(lumtest::civilShifted(kept.get<std::string>(), 3723)))
+      const std::string shifted = lumtest::civilShifted(kept.get<std::string>(), 3723);
+      EXPECT_TRUE((*entry)[kExiftoolNames[i]].get<std::string>().starts_with(shifted))
           << kDates[i] << ": " << (*entry)[kExiftoolNames[i]];
       ++comparedDates;
     }
@@ -131,7 +132,8 @@ TEST(ShiftConformance, RealFilesShiftForwardAndBack) {
     for (const char* date : kDates) {
       if (f.design[date].is_null() || isCanonical(f.design[date].get<std::string>())) continue;
       const auto at = now.begin() + f.design["date_offsets"][date].get<std::ptrdiff_t>();
-      EXPECT_EQ(std::string(at, at + 19), f.design[date] == kZeroDate ? kZeroDate : lumtest::civilShifted(f.design[date].get<std::string>(), 0));
+      EXPECT_EQ(std::string(at, at + 19),
+                f.design[date] == kZeroDate ? kZeroDate : lumtest::civilShifted(f.design[date].get<std::string>(), 0));
     }
   }
   EXPECT_GT(canonicalFiles, 40);
