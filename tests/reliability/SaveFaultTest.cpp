@@ -104,12 +104,11 @@ TEST(SaveFaults, AFailedFlushFailsTheFilesItCoveredAndNoOther) {
   auto doc = doctest_support::openDocument(paths);
   // Every date a photo shows is typed anew, so each file must end as intended;
   // a file the document does not open, or whose dates it does not show, plays no part.
-  constexpr const char* kColumns[] = {"DateTimeOriginal", "DateTimeDigitized", "DateTime"};
   std::erase_if(photos, [&](const auto& entry) {
     LumFileItemDoc* item = doc->itemForURL(entry.first);
     for (const DateTargets::Target& t : DateTargets::kTargets)
       if (item && item->dateText(t.index))
-        doc->controlTextDidEndEditing(*doc->rowOf(item), kColumns[t.index], reltest::kNewDate, false);
+        doc->controlTextDidEndEditing(*doc->rowOf(item), t.column, reltest::kNewDate, false);
     return !item || !item->isEdited();
   });
   // Two files a flush; every second flush fails, and the file it went through
