@@ -3,12 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 
 #include <nlohmann/json.hpp>
 
 #include "support/CliRun.h"
 #include "support/JpegBuilder.h"
+#include "support/TestData.h"
 
 namespace fs = std::filesystem;
 using lumtest::runCli;
@@ -41,18 +41,17 @@ TEST(CliShiftSet, WallClockTimesMoveAsWrittenInEveryZone) {
       {"shift --minutes 30", "2019:09:29 02:45:00", "2019:09:29 03:15:00"},
       {"shift --backward --days 1", "2019:03:11 02:30:00", "2019:03:10 02:30:00"},
       {"set --to '2019:03:10 02:30:00'", "2001:01:01 00:00:00", "2019:03:10 02:30:00"}};
-  const fs::path photo = fs::temp_directory_path() / ("lum-cli-zones-" + std::to_string(::getpid()) + ".jpg");
+  const lumtest::TempFolder folder;
+  const fs::path photo = folder / "photo.jpg";
   for (const auto& c : cases) {
     const std::string date = std::string(c.before) + '\0';
-    const auto bytes = lumtest::JpegBuilder().exif(lumtest::exifTiff({{0x0132, date}}, {{0x9003, date}})).build();
-    std::ofstream(photo, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()), std::ssize(bytes));
+    lumtest::writeFile(photo, lumtest::JpegBuilder().exif(lumtest::exifTiff({{0x0132, date}}, {{0x9003, date}})).build());
     SCOPED_TRACE(std::string(c.command) + " of " + c.before);
     EXPECT_EQ(runCli(std::string(c.command) + " " + shellQuoted(photo)).status, 0);
     const auto json = nlohmann::json::parse(lumtest::runCliStdout("dates --json " + shellQuoted(photo)).out).at(0);
     EXPECT_EQ(json.at("DateTimeOriginal"), c.after);
     EXPECT_EQ(json.at("DateTime"), c.after);
   }
-  fs::remove(photo);
 }
 
 }  // namespace

@@ -4,14 +4,12 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-
-#include <unistd.h>
 
 #include <nlohmann/json.hpp>
 
 #include "support/CliRun.h"
 #include "support/JpegBuilder.h"
+#include "support/TestData.h"
 
 namespace fs = std::filesystem;
 using nlohmann::json;
@@ -24,20 +22,16 @@ lumtest::CliRun runDates(const std::string& arguments) { return lumtest::runCliS
 class CmdDatesFolder : public ::testing::Test {
  protected:
   void SetUp() override {
-    fs::remove_all(root_);
     fs::create_directories(root_ / "sub");
     const auto tiff = lumtest::exifTiff({}, {{0x9003, std::string("2024:05:06 07:08:09\0", 20)}, {0x9291, " 42"}});
-    write("img10.jpg", lumtest::JpegBuilder().exif(tiff).build());
-    write("img9.JPG", lumtest::JpegBuilder().jfif(1, 1).build());
-    write("sub/img1.jpeg", lumtest::JpegBuilder().exif(tiff).build());
-    write("notes.txt", {'h', 'i'});
-    write("picture.png", {0x89, 'P', 'N', 'G'});
+    lumtest::writeFile(root_ / "img10.jpg", lumtest::JpegBuilder().exif(tiff).build());
+    lumtest::writeFile(root_ / "img9.JPG", lumtest::JpegBuilder().jfif(1, 1).build());
+    lumtest::writeFile(root_ / "sub/img1.jpeg", lumtest::JpegBuilder().exif(tiff).build());
+    lumtest::writeFile(root_ / "notes.txt", {'h', 'i'});
+    lumtest::writeFile(root_ / "picture.png", {0x89, 'P', 'N', 'G'});
   }
-  void TearDown() override { fs::remove_all(root_); }
-  void write(const char* name, const lumtest::Bytes& bytes) {
-    std::ofstream(root_ / name, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()), std::ssize(bytes));
-  }
-  const fs::path root_ = fs::temp_directory_path() / ("lum-cli-dates-" + std::to_string(::getpid()));
+  const lumtest::TempFolder folder_;
+  const fs::path& root_ = folder_.path();
 };
 
 // Photos only, each once however often named, in file-manager order (each
@@ -77,7 +71,7 @@ TEST_F(CmdDatesFolder, ListsPhotosOnceInFileManagerOrderAlignedWhenPlain) {
 TEST_F(CmdDatesFolder, EngineNotesOnlyWithVerbose) {
   auto tiff = lumtest::exifTiff({}, {{0x9003, std::string("2024:05:06 07:08:09\0", 20)}});
   tiff[22] = tiff[23] = tiff[24] = tiff[25] = 0x7F;  // IFD0's next IFD far past the end
-  write("damaged.jpg", lumtest::JpegBuilder().exif(tiff).build());
+  lumtest::writeFile(root_ / "damaged.jpg", lumtest::JpegBuilder().exif(tiff).build());
   const std::string photo = " " + shellQuoted(root_ / "damaged.jpg");
   for (const std::string command : {"dates", "dates --json", "info", "shift --dry-run --hours 1"}) {
     EXPECT_EQ(lumtest::runCli(command + photo).out.find("nextIFDLocation:"), std::string::npos) << command;

@@ -1,6 +1,4 @@
-#include <QEventLoop>
 #include <QSignalSpy>
-#include <QTimer>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -32,20 +30,8 @@ struct SaveFixture : ::testing::Test {
   std::unique_ptr<Doc> doc;
 
   void SetUp() override { ensureApplication(); }
-  void open(const std::vector<std::pair<std::string, PhotoDates>>& photos) {
-    std::vector<std::unique_ptr<LumFileItemDoc>> items;
-    for (const auto& [name, dates] : photos) items.push_back(openItem(writePhoto(folder, name, dates)));
-    doc = std::make_unique<Doc>(std::move(items));
-  }
-  LumSaveOutcome save(bool all = true) {
-    LumSaveOutcome outcome;
-    QEventLoop loop;
-    QObject::connect(doc.get(), &Doc::saveFinished, &loop, [&](const LumSaveOutcome& o) { outcome = o, loop.quit(); });
-    QTimer::singleShot(20000, &loop, &QEventLoop::quit);
-    EXPECT_TRUE(doc->saveFileAll(all, false, false));
-    if (doc->isSaving()) loop.exec();
-    return outcome;
-  }
+  void open(const std::vector<std::pair<std::string, PhotoDates>>& photos) { doc = openPhotos(folder, photos); }
+  LumSaveOutcome save(bool all = true) { return saveAndWait(*doc, all).value_or(LumSaveOutcome{}); }
   LumFileItemDoc& item(const std::string& name) { return *doc->itemForURL(folder / name); }
   void type(const std::string& name, const char* column, const char* text) {
     doc->controlTextDidEndEditing(*doc->rowOf(&item(name)), column, text, false);
@@ -137,11 +123,9 @@ TEST_F(SaveFixture, FailedFilesAreReportedInRowOrderWithTheirReasonWhileTheOther
 TEST_F(SaveFixture, OnePhotoOpenedUnderTwoNamesNeverLosesAChangeReportedAsSaved) {
   // "b.jpg" is a second name of "a.jpg". Row a changes the first and last
   // dates (one run of bytes across the middle one), row b the middle one.
-  open({{"a.jpg", {kA, kA, kA}}});
-  fs::create_hard_link(folder / "a.jpg", folder / "b.jpg");
-  std::vector<std::unique_ptr<LumFileItemDoc>> items;
-  for (const char* name : {"a.jpg", "b.jpg"}) items.push_back(openItem(folder / name));
-  doc = std::make_unique<Doc>(std::move(items));
+  fs::create_hard_link(writePhoto(folder, "a.jpg", {kA, kA, kA}), folder / "b.jpg");
+  doc = openDocument({folder / "a.jpg", folder / "b.jpg"});
+  ASSERT_EQ(doc->rowCount(), 2);
   type("a.jpg", "DateTimeOriginal", "2001:01:01 01:01:01");
   type("a.jpg", "DateTime", "2003:03:03 03:03:03");
   type("b.jpg", "DateTimeDigitized", "2002:02:02 02:02:02");

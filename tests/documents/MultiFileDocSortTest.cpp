@@ -56,9 +56,8 @@ struct SortFixture : ::testing::Test {
         {"b.jpg", {a, b, c}},       {"A.jpg", {b, b, std::nullopt}}, {"sub/a.jpg", {c, std::nullopt, a}},
         {"C.JPG", {a, a, a}},       {"d.jpg", {std::nullopt, std::nullopt, std::nullopt}},
         {"sub/B.jpg", {a, c, b}},   {"e.jpg", {b, a, c}}};
-    std::vector<std::unique_ptr<LumFileItemDoc>> items;
-    for (const auto& [name, dates] : photos) ASSERT_TRUE(items.emplace_back(openItem(writePhoto(folder, name, dates))));
-    doc = std::make_unique<LumMultiFileDoc>(std::move(items));
+    doc = openPhotos(folder, photos);
+    ASSERT_EQ(doc->rowCount(), static_cast<int>(photos.size()));
     // Some rows marked for editing, some with a changed text, in mixed combinations.
     for (const char* name : {"b.jpg", "sub/a.jpg", "d.jpg", "e.jpg"}) doc->itemForURL(folder / name)->setEdit(true);
     doc->itemForURL(folder / "sub/a.jpg")->setDateText(DateTargets::Original, "2001:01:01 00:00:00");

@@ -19,9 +19,9 @@ struct DocFixture : ::testing::Test {
 
   void SetUp() override { ensureApplication(); }
   std::unique_ptr<Doc> open(const std::vector<std::pair<std::string, PhotoDates>>& photos) {
-    std::vector<std::unique_ptr<LumFileItemDoc>> items;
-    for (const auto& [name, dates] : photos) EXPECT_TRUE(items.emplace_back(openItem(writePhoto(folder, name, dates))));
-    return std::make_unique<Doc>(std::move(items));
+    auto doc = openPhotos(folder, photos);
+    EXPECT_EQ(doc->rowCount(), static_cast<int>(photos.size()));
+    return doc;
   }
   DateTargets::Texts texts(const Doc& doc, const std::string& name) const {
     const LumFileItemDoc* item = doc.itemForURL(folder / name);

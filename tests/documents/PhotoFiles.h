@@ -3,47 +3,27 @@
 // chosen dates opened as rows of a multi-file document.
 
 #include <QCoreApplication>
+#include <QEventLoop>
+#include <QTimer>
 
 #include <cstdint>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "documents/LumFileItemDoc.h"
+#include "documents/LumMultiFileDoc.h"
 #include "support/JpegBuilder.h"
 #include "support/TestData.h"
 
 namespace doctest_support {
 
-class TempFolder {
- public:
-  TempFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "lumdocs-XXXXXX").string();
-    path_ = ::mkdtemp(pattern.data());
-  }
-  ~TempFolder() {
-    std::error_code ignored;
-    std::filesystem::permissions(path_, std::filesystem::perms::owner_all, ignored);
-    std::filesystem::remove_all(path_, ignored);
-  }
-  TempFolder(const TempFolder&) = delete;
-  TempFolder& operator=(const TempFolder&) = delete;
-  const std::filesystem::path& path() const { return path_; }
-  std::filesystem::path operator/(const std::string& name) const { return path_ / name; }
-
- private:
-  std::filesystem::path path_;
-};
-
-inline void writeBytes(const std::filesystem::path& path, const std::vector<std::uint8_t>& bytes) {
-  std::ofstream out(path, std::ios::binary | std::ios::trunc);
-  out.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-}
-
-inline std::vector<std::uint8_t> readBytes(const std::filesystem::path& path) { return lumtest::readFile(path); }
+using lumtest::TempFolder;
+inline constexpr auto& writeBytes = lumtest::writeFile;
+inline constexpr auto& readBytes = lumtest::readFile;
 
 struct PhotoDates { std::optional<std::string> original, digitized, edited; };
 
@@ -79,6 +59,37 @@ inline void ensureApplication() {
   static char name[] = "documents_tests";
   static char* argv[] = {name, nullptr};
   if (!QCoreApplication::instance()) new QCoreApplication(argc, argv);
+}
+
+// Opens every path as a row of one document; a path that does not open is left out.
+inline std::unique_ptr<LumMultiFileDoc> openDocument(const std::vector<std::filesystem::path>& paths) {
+  ensureApplication();
+  std::vector<std::unique_ptr<LumFileItemDoc>> items;
+  for (const auto& path : paths)
+    if (auto image = LumImageFile::imageFileWithURL(path, nullptr))
+      items.push_back(std::make_unique<LumFileItemDoc>(path, std::move(image)));
+  return std::make_unique<LumMultiFileDoc>(std::move(items));
+}
+
+// The photos written into the folder and opened as the rows of one document.
+inline std::unique_ptr<LumMultiFileDoc> openPhotos(const TempFolder& folder,
+                                                   const std::vector<std::pair<std::string, PhotoDates>>& photos) {
+  std::vector<std::filesystem::path> paths;
+  for (const auto& [name, dates] : photos) paths.push_back(writePhoto(folder, name, dates));
+  return openDocument(paths);
+}
+
+// Saves every edited file (or the edited among the selection) and waits for
+// the outcome; none after a minute.
+inline std::optional<LumSaveOutcome> saveAndWait(LumMultiFileDoc& doc, bool all = true) {
+  std::optional<LumSaveOutcome> outcome;
+  QEventLoop loop;
+  QObject::connect(&doc, &LumMultiFileDoc::saveFinished, &loop,
+                   [&](const LumSaveOutcome& o) { outcome = o, loop.quit(); });
+  QTimer::singleShot(60'000, &loop, &QEventLoop::quit);
+  doc.saveFileAll(all, false, false);
+  if (doc.isSaving()) loop.exec();
+  return outcome;
 }
 
 }  // namespace doctest_support

@@ -4,7 +4,6 @@
 #include <sys/stat.h>
 
 #include <chrono>
-#include <cstdio>
 #include <set>
 
 #include "PhotoFiles.h"
@@ -29,20 +28,6 @@ std::array<int, 6> fieldsOf(const std::string& text) {
   std::array<int, 6> f{std::stoi(text.substr(0, 4))};
   for (std::size_t i = 1; i < 6; ++i) f[i] = std::stoi(text.substr(2 + 3 * i, 2));
   return f;
-}
-
-// The text shifted by whole seconds, worked out with the standard civil
-// calendar (independent of the program's own arithmetic).
-std::string shifted(const std::string& text, long seconds) {
-  using namespace std::chrono;
-  const auto f = fieldsOf(text);
-  const sys_seconds t = sys_days(year(f[0]) / f[1] / f[2]) + hours(f[3]) + minutes(f[4]) + std::chrono::seconds(f[5] + seconds);
-  const year_month_day ymd(floor<days>(t));
-  const hh_mm_ss<std::chrono::seconds> hms(t - floor<days>(t));
-  char out[32];
-  std::snprintf(out, sizeof out, "%04d:%02u:%02u %02ld:%02ld:%02ld", int(ymd.year()), unsigned(ymd.month()),
-                unsigned(ymd.day()), long(hms.hours().count()), long(hms.minutes().count()), long(hms.seconds().count()));
-  return out;
 }
 
 // "yyyy:MM:dd HH:mm:ss" of a real calendar date.
@@ -121,7 +106,8 @@ TEST(ShiftConformance, RealFilesShiftForwardAndBack) {
           !before["value"].get<std::string>().starts_with(kept.get<std::string>()))
         continue;
       ASSERT_TRUE(entry->contains(kExiftoolNames[i])) << kExiftoolNames[i];
-      EXPECT_TRUE((*entry)[kExiftoolNames[i]].get<std::string>().starts_with(shifted(kept.get<std::string>(), 3723)))
+      const std::string shifted = lumtest::civilShifted(kept.get<std::string>(), 3723);
+      EXPECT_TRUE((*entry)[kExiftoolNames[i]].get<std::string>().starts_with(shifted))
           << kDates[i] << ": " << (*entry)[kExiftoolNames[i]];
       ++comparedDates;
     }
@@ -146,7 +132,8 @@ TEST(ShiftConformance, RealFilesShiftForwardAndBack) {
     for (const char* date : kDates) {
       if (f.design[date].is_null() || isCanonical(f.design[date].get<std::string>())) continue;
       const auto at = now.begin() + f.design["date_offsets"][date].get<std::ptrdiff_t>();
-      EXPECT_EQ(std::string(at, at + 19), f.design[date] == kZeroDate ? kZeroDate : shifted(f.design[date].get<std::string>(), 0));
+      EXPECT_EQ(std::string(at, at + 19),
+                f.design[date] == kZeroDate ? kZeroDate : lumtest::civilShifted(f.design[date].get<std::string>(), 0));
     }
   }
   EXPECT_GT(canonicalFiles, 40);

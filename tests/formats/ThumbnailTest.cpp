@@ -46,8 +46,7 @@ TEST(LumImageFileThumbnail, TheCamerasThumbnailOnlyWhenItGivesTheSameSize) {
     LumError error;
     const auto file = LumImageFile::imageFileWithURL(temp.path(), &error);
     ASSERT_TRUE(file) << error.reason;
-    lumtest::PathOwner owner;
-    owner.path = temp.path();
+    lumtest::PathOwner owner(temp.path());
     file->setOwnerDocument(&owner);
     // Read without being kept, then made and kept: the same picture.
     const auto read = file->readThumbnail(temp.path());

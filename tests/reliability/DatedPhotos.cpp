@@ -1,43 +1,12 @@
 #include "DatedPhotos.h"
 
-#include <stdlib.h>
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
 
 #include "support/TestData.h"
 
 namespace reltest {
-
-ScratchFolder::ScratchFolder() {
-  std::string pattern = (std::filesystem::temp_directory_path() / "lumrel-XXXXXX").string();
-  if (::mkdtemp(pattern.data())) path_ = pattern;
-}
-
-ScratchFolder::~ScratchFolder() {
-  if (path_.empty()) return;
-  std::error_code ignored;
-  // Give back write permission everywhere first (tests make folders read-only).
-  ::chmod(path_.c_str(), 0700);
-  for (auto it = std::filesystem::recursive_directory_iterator(path_, ignored); it != std::filesystem::recursive_directory_iterator();
-       it.increment(ignored))
-    if (it->is_directory(ignored) && !it->is_symlink(ignored)) ::chmod(it->path().c_str(), 0700);
-  std::filesystem::remove_all(path_, ignored);
-}
-
-std::vector<std::uint8_t> readAll(const std::filesystem::path& path) {
-  std::ifstream in(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-void writeAll(const std::filesystem::path& path, const std::vector<std::uint8_t>& bytes) {
-  std::ofstream out(path, std::ios::binary | std::ios::trunc);
-  out.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-}
 
 namespace {
 
@@ -48,7 +17,7 @@ std::vector<DatedPhoto> loadDatedPhotos() {
   static constexpr const char* kDateKeys[] = {"DateTimeOriginal", "DateTimeDigitized", "DateTime"};
   for (const std::string& name : lumtest::realFileNames()) {
     const nlohmann::json& dates = lumtest::expectedFor(name).value("dates", nlohmann::json::object());
-    DatedPhoto photo{name, readAll(*dir / name), {}, {}};
+    DatedPhoto photo{name, lumtest::readFile(*dir / name), {}, {}};
     for (const char* key : kDateKeys) {
       const auto it = dates.find(key);
       if (it == dates.end() || !it->is_object() || !(*it)["offset"].is_number_unsigned()) continue;

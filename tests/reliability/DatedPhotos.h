@@ -1,7 +1,7 @@
 #pragma once
 // Real camera files that carry date texts, copied into a scratch folder, with
 // the byte patches of a date change and the bytes the file must hold after
-// it. Shared by the save fault tests and the document save test.
+// it, for the save fault tests.
 
 #include <cstdint>
 #include <filesystem>
@@ -10,22 +10,9 @@
 
 #include "documents/DateRewrite.h"
 #include "documents/InPlaceWriter.h"
+#include "support/TestData.h"
 
 namespace reltest {
-
-// A scratch folder removed (with everything in it) at the end of the test,
-// permissions restored first so a read-only child does not stop the removal.
-class ScratchFolder {
- public:
-  ScratchFolder();
-  ~ScratchFolder();
-  ScratchFolder(const ScratchFolder&) = delete;
-  ScratchFolder& operator=(const ScratchFolder&) = delete;
-  const std::filesystem::path& path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
-};
 
 struct DatedPhoto {
   std::string name;
@@ -48,9 +35,6 @@ void reportFigure(const std::string& name, double value);
 
 // The date text written by the tests; differs from every real file's dates.
 inline const std::string kNewDate = "2031:12:30 23:58:57";
-
-std::vector<std::uint8_t> readAll(const std::filesystem::path& path);
-void writeAll(const std::filesystem::path& path, const std::vector<std::uint8_t>& bytes);
 
 // "as opened", "as intended" or "MIXED (n bytes differ from both)".
 std::string stateOf(const std::vector<std::uint8_t>& now, const DatedPhoto& photo);

@@ -13,7 +13,7 @@
 #include <thread>
 
 #include "DatedPhotos.h"
-#include "DocumentHarness.h"
+#include "documents/PhotoFiles.h"
 #include "SmallPhotos.h"
 #include "formats/FileExpansion.h"
 
@@ -47,40 +47,40 @@ fs::path deepFolder(const fs::path& root, std::size_t total) {
 // kept elsewhere: the walk finds each once, and saving writes through to the
 // photo, leaving the link a link.
 TEST(HostileNames, ExpansionFindsEveryPhotoAndSavingWritesEach) {
-  reltest::ScratchFolder root;
+  lumtest::TempFolder root;
   const fs::path album = root.path() / "album", store = root.path() / "store";
   for (const fs::path& d : {album, store}) fs::create_directory(d);
   std::set<fs::path> photos;
   int index = 0;
-  for (const std::string& name : kHostileNames) reltest::writeAll(*photos.insert(album / name).first, reltest::smallDatedJpeg(index++));
-  reltest::writeAll(album / "notes.txt", {'x'});
-  reltest::writeAll(album / "no-extension", reltest::smallDatedJpeg(99));
+  for (const std::string& name : kHostileNames) lumtest::writeFile(*photos.insert(album / name).first, reltest::smallDatedJpeg(index++));
+  lumtest::writeFile(album / "notes.txt", {'x'});
+  lumtest::writeFile(album / "no-extension", reltest::smallDatedJpeg(99));
   const fs::path deep = *photos.insert(deepFolder(album, 4000) / "deep.jpg").first;
-  reltest::writeAll(deep, reltest::smallDatedJpeg(7));
+  lumtest::writeFile(deep, reltest::smallDatedJpeg(7));
   ASSERT_TRUE(fs::exists(deep)) << "the system refused a path of " << deep.native().size() << " bytes";
-  reltest::writeAll(store / "real.jpg", reltest::smallDatedJpeg(3));
+  lumtest::writeFile(store / "real.jpg", reltest::smallDatedJpeg(3));
   fs::create_symlink("../store/real.jpg", *photos.insert(album / "link.jpg").first);
 
   const auto expansion = FileExpansion::allPhotoPaths({album});
   EXPECT_EQ(asSet(expansion.files), photos);
   EXPECT_EQ(expansion.files.size(), photos.size()) << "a file was taken twice";
   std::map<fs::path, std::vector<std::uint8_t>> intended;
-  for (const fs::path& p : photos) intended[p] = reltest::shiftedBytes(reltest::readAll(p), kOneDayOneSecond);
-  auto doc = reltest::openDocument(expansion.files);
+  for (const fs::path& p : photos) intended[p] = reltest::shiftedBytes(lumtest::readFile(p), kOneDayOneSecond);
+  auto doc = doctest_support::openDocument(expansion.files);
   reltest::shiftAllOneDay(*doc);
-  const auto outcome = reltest::saveAndWait(*doc);
+  const auto outcome = doctest_support::saveAndWait(*doc);
   ASSERT_TRUE(outcome && outcome->failures.empty());
-  for (const fs::path& p : photos) EXPECT_EQ(reltest::readAll(p), intended[p]) << p;
+  for (const fs::path& p : photos) EXPECT_EQ(lumtest::readFile(p), intended[p]) << p;
   EXPECT_TRUE(fs::is_symlink(album / "link.jpg")) << "the link was replaced by a file";
 }
 
 // Beyond the system's path limit, link loops and dangling links: the walk
 // ends quietly and finds the photo once.
 TEST(HostileNames, LongPathsAndLinkLoopsEndTheWalk) {
-  reltest::ScratchFolder folder;
+  lumtest::TempFolder folder;
   const fs::path sub = folder.path() / "sub";
   fs::create_directory(sub);
-  reltest::writeAll(sub / "photo.jpg", reltest::smallDatedJpeg(4));
+  lumtest::writeFile(sub / "photo.jpg", reltest::smallDatedJpeg(4));
   deepFolder(folder.path(), 4600);
   fs::create_directory_symlink(".", sub / "self");      // sub/self/self/... forever
   fs::create_directory_symlink("..", sub / "up");       // back to the top
@@ -96,21 +96,21 @@ TEST(HostileNames, LongPathsAndLinkLoopsEndTheWalk) {
   EXPECT_LE(expansion.files.size(), 8u);
   EXPECT_EQ(std::count(expansion.files.begin(), expansion.files.end(), sub / "photo.jpg"), 1);
   // Links that lead nowhere open as nothing and do not stop the others.
-  EXPECT_GE(reltest::openDocument(expansion.files)->rowCount(), 1);
+  EXPECT_GE(doctest_support::openDocument(expansion.files)->rowCount(), 1);
 }
 
 // Folders removed while the walk runs are passed over; the photos in the
 // other folders are all still found.
 TEST(HostileNames, FoldersVanishingDuringTheWalkDoNotHideTheOtherPhotos) {
-  reltest::ScratchFolder folder;
+  lumtest::TempFolder folder;
   std::set<fs::path> stable;
   std::vector<fs::path> doomed;
   for (int i = 0; i < 40; ++i) {
     const fs::path keep = folder.path() / ("keep-" + std::to_string(i)), gone = folder.path() / ("gone-" + std::to_string(i));
     fs::create_directories(keep);
     fs::create_directories(doomed.emplace_back(gone));
-    reltest::writeAll(*stable.insert(keep / "photo.jpg").first, {0xFF, 0xD8});
-    for (int j = 0; j < 20; ++j) reltest::writeAll(gone / ("p" + std::to_string(j) + ".jpg"), {0xFF, 0xD8});
+    lumtest::writeFile(*stable.insert(keep / "photo.jpg").first, {0xFF, 0xD8});
+    for (int j = 0; j < 20; ++j) lumtest::writeFile(gone / ("p" + std::to_string(j) + ".jpg"), {0xFF, 0xD8});
   }
   std::atomic<bool> done{false};
   std::thread remover([&] {

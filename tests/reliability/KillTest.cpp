@@ -34,13 +34,13 @@ TEST(KillDuringSave, EveryFileIsAsBeforeOrAsIntendedAfterEachKill) {
   ASSERT_TRUE(fs::exists(LUMIDATE_CLI_PATH)) << "lumidate-cli is not built at " << LUMIDATE_CLI_PATH;
   const int fileCount = reltest::countFromEnvironment("LUMIDATE_KILL_FILES", 200);
   const int kills = reltest::countFromEnvironment("LUMIDATE_KILLS", 5);
-  reltest::ScratchFolder folder;
+  lumtest::TempFolder folder;
   const auto paths = reltest::writeSmallPhotos(folder.path(), fileCount);
   // Each file as the run found it and as the run means to leave it.
   std::vector<std::vector<std::uint8_t>> before(paths.size()), intended(paths.size());
   const auto refresh = [&] {
     for (std::size_t i = 0; i < paths.size(); ++i)
-      intended[i] = reltest::shiftedBytes(before[i] = reltest::readAll(paths[i]), kOneDay);
+      intended[i] = reltest::shiftedBytes(before[i] = lumtest::readFile(paths[i]), kOneDay);
   };
 
   // One whole run first: it must change every file, and it says how long a
@@ -50,7 +50,7 @@ TEST(KillDuringSave, EveryFileIsAsBeforeOrAsIntendedAfterEachKill) {
   const int status = waitFor(reltest::startShiftByOneDay(folder.path()));
   const auto runTime = Clock::now() - start;
   ASSERT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << "status " << status;
-  for (std::size_t i = 0; i < paths.size(); ++i) ASSERT_EQ(reltest::readAll(paths[i]), intended[i]) << paths[i];
+  for (std::size_t i = 0; i < paths.size(); ++i) ASSERT_EQ(lumtest::readFile(paths[i]), intended[i]) << paths[i];
 
   std::mt19937 random(20240601);
   std::uniform_int_distribution<long> moment(0, std::chrono::duration_cast<std::chrono::microseconds>(runTime).count());
@@ -64,7 +64,7 @@ TEST(KillDuringSave, EveryFileIsAsBeforeOrAsIntendedAfterEachKill) {
     waitFor(pid);
     std::size_t changed = 0;
     for (std::size_t i = 0; i < paths.size(); ++i) {
-      const std::vector<std::uint8_t> now = reltest::readAll(paths[i]);
+      const std::vector<std::uint8_t> now = lumtest::readFile(paths[i]);
       changed += now == intended[i];
       if (now != intended[i] && now != before[i])
         ++mixed, ADD_FAILURE() << "kill " << k << " left " << paths[i] << " neither as before nor as intended";

@@ -14,7 +14,7 @@
 #include <fstream>
 
 #include "DatedPhotos.h"
-#include "DocumentHarness.h"
+#include "documents/PhotoFiles.h"
 #include "SmallPhotos.h"
 
 namespace fs = std::filesystem;
@@ -35,18 +35,18 @@ double residentKB() {
 TEST(Load, ManyFilesStayBoundedLeakNoDescriptorAndEndAsIntended) {
   ASSERT_TRUE(fs::exists(LUMIDATE_CLI_PATH)) << "lumidate-cli is not built at " << LUMIDATE_CLI_PATH;
   const int count = reltest::countFromEnvironment("LUMIDATE_LOAD_FILES", 500);
-  reltest::ScratchFolder folder;
+  lumtest::TempFolder folder;
   const auto paths = reltest::writeSmallPhotos(folder.path(), count);
   std::vector<std::vector<std::uint8_t>> intended;
-  for (const fs::path& p : paths) intended.push_back(reltest::shiftedBytes(reltest::readAll(p), {0, 0, 1, 0, 0, 1}));
+  for (const fs::path& p : paths) intended.push_back(reltest::shiftedBytes(lumtest::readFile(p), {0, 0, 1, 0, 0, 1}));
   const auto expectIntended = [&] {
-    for (std::size_t i = 0; i < paths.size(); ++i) ASSERT_EQ(reltest::readAll(paths[i]), intended[i]) << paths[i];
+    for (std::size_t i = 0; i < paths.size(); ++i) ASSERT_EQ(lumtest::readFile(paths[i]), intended[i]) << paths[i];
   };
 
-  reltest::qtApp();
+  doctest_support::ensureApplication();
   const double descriptorsBefore = openDescriptors(), residentBefore = residentKB();
   {
-    auto doc = reltest::openDocument(paths);
+    auto doc = doctest_support::openDocument(paths);
     ASSERT_EQ(doc->rowCount(), count);
     const double descriptorsLoaded = openDescriptors(), perFileKB = (residentKB() - residentBefore) / count;
     std::ifstream maps("/proc/self/maps");
@@ -59,7 +59,7 @@ TEST(Load, ManyFilesStayBoundedLeakNoDescriptorAndEndAsIntended) {
     EXPECT_EQ(doc->editedFileCount(), 0u) << "undo left files edited";
     doc->undoStack().redo();
     ASSERT_EQ(static_cast<int>(doc->editedFileCount()), count);
-    const auto outcome = reltest::saveAndWait(*doc);
+    const auto outcome = doctest_support::saveAndWait(*doc);
     ASSERT_TRUE(outcome.has_value());
     EXPECT_TRUE(outcome->failures.empty());
     const double descriptorsSaved = openDescriptors();

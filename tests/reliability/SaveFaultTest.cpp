@@ -13,7 +13,7 @@
 #include <system_error>
 
 #include "DatedPhotos.h"
-#include "DocumentHarness.h"
+#include "documents/PhotoFiles.h"
 #include "support/TestData.h"
 
 using reltest::DatedPhoto;
@@ -25,11 +25,11 @@ std::string errnoText(int error) { return std::system_category().message(error);
 
 // A copy of the photo in a scratch folder and its identity as opened.
 struct Copy {
-  reltest::ScratchFolder folder;
+  lumtest::TempFolder folder;
   fs::path path;
   InPlaceWriter::FileIdentity opened;
   explicit Copy(const DatedPhoto& photo) : path(folder.path() / photo.name) {
-    reltest::writeAll(path, photo.bytes);
+    lumtest::writeFile(path, photo.bytes);
     opened = *InPlaceWriter::identityOfFile(path);
   }
 };
@@ -80,7 +80,7 @@ TEST(SaveFaults, AWriteThatFailsPartWayIsReportedAndNeverMovesBytesOutsideTheDat
         ++faults;
         EXPECT_FALSE(result.ok);
         EXPECT_EQ(result.reason, errnoText(disk.error));
-        std::vector<std::uint8_t> now = reltest::readAll(copy.path);
+        std::vector<std::uint8_t> now = lumtest::readFile(copy.path);
         if (disk.failures == 1) { EXPECT_EQ(reltest::stateOf(now, *photo), "as opened"); }
         ASSERT_EQ(now.size(), photo->bytes.size());
         std::copy(photo->bytes.begin() + first, photo->bytes.begin() + end, now.begin() + first);
@@ -93,23 +93,22 @@ TEST(SaveFaults, AWriteThatFailsPartWayIsReportedAndNeverMovesBytesOutsideTheDat
 
 TEST(SaveFaults, AFailedFlushFailsTheFilesItCoveredAndNoOther) {
   LUMTEST_REQUIRE_REAL_DATA();
-  reltest::ScratchFolder folder;
+  lumtest::TempFolder folder;
   std::map<fs::path, const DatedPhoto*> photos;
   for (const DatedPhoto* photo : reltest::photosForFaults()) {
     photos[folder.path() / photo->name] = photo;
-    reltest::writeAll(folder.path() / photo->name, photo->bytes);
+    lumtest::writeFile(folder.path() / photo->name, photo->bytes);
   }
   std::vector<fs::path> paths;
   for (const auto& entry : photos) paths.push_back(entry.first);
-  auto doc = reltest::openDocument(paths);
+  auto doc = doctest_support::openDocument(paths);
   // Every date a photo shows is typed anew, so each file must end as intended;
   // a file the document does not open, or whose dates it does not show, plays no part.
-  constexpr const char* kColumns[] = {"DateTimeOriginal", "DateTimeDigitized", "DateTime"};
   std::erase_if(photos, [&](const auto& entry) {
     LumFileItemDoc* item = doc->itemForURL(entry.first);
     for (const DateTargets::Target& t : DateTargets::kTargets)
       if (item && item->dateText(t.index))
-        doc->controlTextDidEndEditing(*doc->rowOf(item), kColumns[t.index], reltest::kNewDate, false);
+        doc->controlTextDidEndEditing(*doc->rowOf(item), t.column, reltest::kNewDate, false);
     return !item || !item->isEdited();
   });
   // Two files a flush; every second flush fails, and the file it went through
@@ -123,7 +122,7 @@ TEST(SaveFaults, AFailedFlushFailsTheFilesItCoveredAndNoOther) {
     return errno = EIO, -1;
   };
   doc->setFlushFunction(flush, 2);
-  const auto outcome = reltest::saveAndWait(*doc);
+  const auto outcome = doctest_support::saveAndWait(*doc);
   ASSERT_TRUE(outcome.has_value()) << "the save never finished";
   EXPECT_EQ(flushes, static_cast<int>((photos.size() + 1) / 2));
   EXPECT_EQ(outcome->failures.size(), photos.size() / 4 * 2 + (photos.size() % 4 == 3 ? 1 : 0));
@@ -137,7 +136,7 @@ TEST(SaveFaults, AFailedFlushFailsTheFilesItCoveredAndNoOther) {
     // A failed file keeps its edit to be saved again; its bytes were written,
     // only their way to the disk is in doubt.
     EXPECT_EQ(doc->itemForURL(path)->isEdited(), failed.count(path) == 1) << path;
-    EXPECT_EQ(reltest::stateOf(reltest::readAll(path), *photo), "as intended") << path;
+    EXPECT_EQ(reltest::stateOf(lumtest::readFile(path), *photo), "as intended") << path;
   }
   reltest::reportFigure("faults injected, failed flushes", static_cast<double>(failedFlushes.size()));
 }
@@ -167,7 +166,7 @@ TEST(SaveFaults, AFileSizeLimitBelowTheDatesFailsTheSaveAndKeepsTheFile) {
       ::waitpid(pid, &status, 0);
       EXPECT_TRUE(WIFEXITED(status)) << status;
       EXPECT_EQ(WEXITSTATUS(status), below ? 1 : 0) << "0: saved, 1: too large, 2: another failure";
-      EXPECT_EQ(reltest::stateOf(reltest::readAll(copy.path), *photo), below ? "as opened" : "as intended");
+      EXPECT_EQ(reltest::stateOf(lumtest::readFile(copy.path), *photo), below ? "as opened" : "as intended");
     }
   }
   reltest::reportFigure("faults injected, file size limit", faults);

@@ -1,7 +1,6 @@
 #include "SmallPhotos.h"
 
 #include <cctype>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <stdexcept>
@@ -31,7 +30,7 @@ std::vector<std::filesystem::path> writeSmallPhotos(const std::filesystem::path&
   for (int i = 0; i < count; ++i) {
     char name[32];
     std::snprintf(name, sizeof name, "img-%05d.jpg", i);
-    writeAll(paths.emplace_back(folder / name), smallDatedJpeg(i));
+    lumtest::writeFile(paths.emplace_back(folder / name), smallDatedJpeg(i));
   }
   return paths;
 }
@@ -52,22 +51,14 @@ bool isDateTextAt(const std::vector<std::uint8_t>& bytes, std::size_t at) {
 // Worked out with the standard civil calendar, not with the program's own
 // date code: the expectation must not share the code it checks.
 std::vector<std::uint8_t> shiftedBytes(const std::vector<std::uint8_t>& bytes, const DateTextRules::Offsets& offsets) {
-  using namespace std::chrono;
   if (offsets[0] != 0 || offsets[1] != 0) throw std::invalid_argument("shiftedBytes: only days and times");
-  const seconds by = days(offsets[2]) + hours(offsets[3]) + minutes(offsets[4]) + seconds(offsets[5]);
+  const std::int64_t by = ((offsets[2] * 24 + offsets[3]) * 60 + offsets[4]) * 60 + offsets[5];
   std::vector<std::uint8_t> out = bytes;
   for (std::size_t at = 0; at < out.size(); ++at) {
     if (!isDateTextAt(out, at)) continue;
-    int y = 0, mo = 0, d = 0, h = 0, mi = 0, sec = 0;
-    std::sscanf(reinterpret_cast<const char*>(&out[at]), "%d:%d:%d %d:%d:%d", &y, &mo, &d, &h, &mi, &sec);
-    const sys_seconds t = sys_days(year(y) / mo / d) + hours(h) + minutes(mi) + seconds(sec) + by;
-    const year_month_day ymd(floor<days>(t));
-    const hh_mm_ss<seconds> time(t - floor<days>(t));
-    char text[24];
-    std::snprintf(text, sizeof text, "%04d:%02u:%02u %02d:%02d:%02d", int(ymd.year()), unsigned(ymd.month()),
-                  unsigned(ymd.day()), int(time.hours().count()), int(time.minutes().count()),
-                  int(time.seconds().count()));
-    std::copy(text, text + 19, out.begin() + static_cast<std::ptrdiff_t>(at));
+    const auto from = out.begin() + static_cast<std::ptrdiff_t>(at);
+    const std::string text = lumtest::civilShifted(std::string(from, from + 19), by);
+    std::copy(text.begin(), text.end(), from);
     at += 19;
   }
   return out;

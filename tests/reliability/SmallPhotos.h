@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "documents/DateTextRules.h"
+#include "documents/LumMultiFileDoc.h"
 
 namespace reltest {
 
@@ -23,6 +24,15 @@ std::vector<std::filesystem::path> writeSmallPhotos(const std::filesystem::path&
 // The bytes with every date text in them shifted by the offsets (what a shift
 // must leave in the file); only days, hours, minutes and seconds.
 std::vector<std::uint8_t> shiftedBytes(const std::vector<std::uint8_t>& bytes, const DateTextRules::Offsets& offsets);
+
+// Marks every row and applies a shift of one day and one second forward.
+inline void shiftAllOneDay(LumMultiFileDoc& doc) {
+  doc.changeActionMode(LumActionMode::Forward);
+  doc.setFieldValues({0, 0, 1, 0, 0, 1});
+  doc.setEditTargetMask(DateTargets::kAllMask);
+  doc.setEditStateOnAllFiles();
+  doc.applyToAllFiles();
+}
 
 // Count from an environment variable, or fallback when unset or not a number.
 int countFromEnvironment(const char* name, int fallback);

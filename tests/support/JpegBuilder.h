@@ -138,50 +138,41 @@ struct AsciiEntry {
 // A TIFF block: header, IFD0 with its entries and (when the Exif list is
 // not empty) an Exif IFD pointer, the Exif IFD, then all values out of line.
 // Values of 4 bytes or fewer stay inline, as TIFF wants.
-inline Bytes exifTiff(const std::vector<AsciiEntry>& ifd0, const std::vector<AsciiEntry>& exif,
-                      bool littleEndian = true) {
+inline Bytes exifTiff(std::vector<AsciiEntry> ifd0, std::vector<AsciiEntry> exif, bool littleEndian = true) {
   Bytes b;
-  const auto put16 = [&](std::size_t at, std::uint32_t v) {
-    b[at + (littleEndian ? 0 : 1)] = static_cast<std::uint8_t>(v);
-    b[at + (littleEndian ? 1 : 0)] = static_cast<std::uint8_t>(v >> 8);
+  const auto put = [&](std::size_t at, std::uint32_t v, int size) {
+    for (int i = 0; i < size; ++i)
+      b[at + static_cast<std::size_t>(littleEndian ? i : size - 1 - i)] = static_cast<std::uint8_t>(v >> (8 * i));
   };
-  const auto put32 = [&](std::size_t at, std::uint32_t v) {
-    for (int i = 0; i < 4; ++i)
-      b[at + static_cast<std::size_t>(littleEndian ? i : 3 - i)] = static_cast<std::uint8_t>(v >> (8 * i));
-  };
-  const std::size_t n0 = ifd0.size() + (exif.empty() ? 0 : 1);
-  const std::size_t ifd0At = 8, exifAt = ifd0At + 2 + 12 * n0 + 4;
-  const std::size_t valuesAt = exifAt + (exif.empty() ? 0 : 2 + 12 * exif.size() + 4);
-  b.assign(valuesAt, 0);
+  if (!exif.empty()) ifd0.push_back({0x8769, {}});
+  const std::size_t exifAt = 8 + 2 + 12 * ifd0.size() + 4;
+  b.assign(exifAt + (exif.empty() ? 0 : 2 + 12 * exif.size() + 4), 0);
   b[0] = b[1] = littleEndian ? 'I' : 'M';
-  put16(2, 42);
-  put32(4, static_cast<std::uint32_t>(ifd0At));
-  const auto writeIFD = [&](std::size_t at, std::vector<AsciiEntry> entries, bool withPointer) {
-    if (withPointer) entries.push_back({0x8769, {}});
-    std::sort(entries.begin(), entries.end(), [](const AsciiEntry& x, const AsciiEntry& y) { return x.tag < y.tag; });
-    put16(at, static_cast<std::uint32_t>(entries.size()));
-    std::size_t e = at + 2;
-    for (const AsciiEntry& entry : entries) {
-      put16(e, entry.tag);
-      if (entry.tag == 0x8769 && withPointer) {
-        put16(e + 2, 4);
-        put32(e + 4, 1);
-        put32(e + 8, static_cast<std::uint32_t>(exifAt));
+  put(2, 42, 2);
+  put(4, 8, 4);
+  std::size_t at = 8;
+  for (std::vector<AsciiEntry>* entries : {&ifd0, &exif}) {
+    if (entries == &exif && exif.empty()) break;
+    std::sort(entries->begin(), entries->end(), [](const AsciiEntry& x, const AsciiEntry& y) { return x.tag < y.tag; });
+    put(at, static_cast<std::uint32_t>(entries->size()), 2);
+    at += 2;
+    for (const AsciiEntry& e : *entries) {
+      const bool pointer = entries == &ifd0 && e.tag == 0x8769 && !exif.empty();
+      put(at, e.tag, 2);
+      put(at + 2, pointer ? 4 : 2, 2);
+      put(at + 4, pointer ? 1 : static_cast<std::uint32_t>(e.value.size()), 4);
+      if (pointer) {
+        put(at + 8, static_cast<std::uint32_t>(exifAt), 4);
+      } else if (e.value.size() <= 4) {
+        std::copy(e.value.begin(), e.value.end(), b.begin() + static_cast<std::ptrdiff_t>(at + 8));
       } else {
-        put16(e + 2, 2);
-        put32(e + 4, static_cast<std::uint32_t>(entry.value.size()));
-        if (entry.value.size() <= 4) {
-          for (std::size_t i = 0; i < entry.value.size(); ++i) b[e + 8 + i] = static_cast<std::uint8_t>(entry.value[i]);
-        } else {
-          put32(e + 8, static_cast<std::uint32_t>(b.size()));
-          b.insert(b.end(), entry.value.begin(), entry.value.end());
-        }
+        put(at + 8, static_cast<std::uint32_t>(b.size()), 4);
+        b.insert(b.end(), e.value.begin(), e.value.end());
       }
-      e += 12;
+      at += 12;
     }
-  };
-  writeIFD(ifd0At, ifd0, !exif.empty());
-  if (!exif.empty()) writeIFD(exifAt, exif, false);
+    at += 4;
+  }
   return b;
 }
 

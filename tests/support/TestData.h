@@ -5,8 +5,10 @@
 // is missing they are skipped with a message that says so, never passed
 // silently. LUMIDATE_TESTDATA in the environment overrides the built-in path.
 
+#include <cstdint>
 #include <filesystem>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include <nlohmann/json.hpp>
@@ -25,8 +27,30 @@ const nlohmann::json& expectedFor(const std::string& fileName);
 // Names of every file listed in expected.json, sorted.
 std::vector<std::string> realFileNames();
 
-// Reads a whole file into memory (for tests only).
+// Reads a whole file into memory, or writes one (for tests only).
 std::vector<std::uint8_t> readFile(const std::filesystem::path& path);
+void writeFile(const std::filesystem::path& path, const std::vector<std::uint8_t>& bytes);
+
+// A date text ("yyyy:MM:dd HH:mm:ss", or any text with its fields at those
+// places) moved by whole seconds with the standard civil calendar: an
+// expectation worked out independently of the program's own date code.
+std::string civilShifted(const std::string& text, std::int64_t seconds);
+
+// A private scratch folder removed with everything in it at the end of the
+// test; write permission is given back first so that a read-only child does
+// not stop the removal.
+class TempFolder {
+ public:
+  TempFolder();
+  ~TempFolder();
+  TempFolder(const TempFolder&) = delete;
+  TempFolder& operator=(const TempFolder&) = delete;
+  const std::filesystem::path& path() const { return path_; }
+  std::filesystem::path operator/(const std::string& name) const { return path_ / name; }
+
+ private:
+  std::filesystem::path path_;
+};
 
 }  // namespace lumtest
 

@@ -39,12 +39,6 @@ TiffBuilder::IFD& TiffBuilder::IFD::shorts(std::uint16_t tag, std::vector<std::u
   return bytes(tag, 3, std::move(value));
 }
 
-TiffBuilder::IFD& TiffBuilder::IFD::longs(std::uint16_t tag, std::vector<std::uint32_t> values) {
-  std::vector<std::uint8_t> value;
-  for (auto v : values) put32(value, v);
-  return bytes(tag, 4, std::move(value));
-}
-
 TiffBuilder::IFD& TiffBuilder::IFD::undefined(std::uint16_t tag, std::vector<std::uint8_t> v) { return bytes(tag, 7, v); }
 
 TiffBuilder::IFD& TiffBuilder::IFD::bytes(std::uint16_t tag, std::uint16_t type, std::vector<std::uint8_t> value,

@@ -9,7 +9,7 @@
 //   exif.ascii(0x9003, "2024:01:02 03:04:05");
 //   exif.interop().ascii(0x0001, "R98");       // 0xA005 in the Exif IFD
 //   ifd0.gps().bytes(0x0000, 1, {2, 3, 0, 0}); // 0x8825 pointer entry
-//   ifd0.next().longs(0x0201, {0});            // IFD1
+//   ifd0.next().shorts(0x0103, {6});           // IFD1
 //   std::vector<uint8_t> block = tiff.build(12);  // header at position 12
 //
 // Layout: the header (8 bytes), then each IFD's table followed by its
@@ -49,7 +49,6 @@ class TiffBuilder {
     // Entries by type; count is the number of values (ASCII: characters + 1).
     IFD& ascii(std::uint16_t tag, std::string_view text);  // adds the zero byte
     IFD& shorts(std::uint16_t tag, std::vector<std::uint16_t> values);
-    IFD& longs(std::uint16_t tag, std::vector<std::uint32_t> values);
     IFD& undefined(std::uint16_t tag, std::vector<std::uint8_t> bytes);
     // Any type, value bytes given as they are to be written.
     IFD& bytes(std::uint16_t tag, std::uint16_t type, std::vector<std::uint8_t> value,
