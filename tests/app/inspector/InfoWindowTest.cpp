@@ -6,25 +6,17 @@
 #include <QGuiApplication>
 #include <QItemSelectionModel>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTableView>
-#include <QTest>
 
-#include <memory>
-
+#include "app/Appearance.h"
 #include "app/ToolWindows.h"
 #include "app/inspector/InfoClipboard.h"
 #include "app/inspector/InfoTableModel.h"
 #include "app/inspector/InfoWindow.h"
-#include "app/multi/MultiFileWindow.h"
-#include "app/single/SingleFileWindow.h"
 #include "app/support/AppFixture.h"
 #include "documents/LumNotificationCenter.h"
-#include "documents/PhotoFiles.h"
 
-namespace fs = std::filesystem;
 using doctest_support::PhotoDates;
-using Control = OrbDatePicker::Control;
 
 namespace {
 
@@ -37,11 +29,8 @@ struct Shell : AppFixture {
   ToolWindows tools{context, [this]() -> DocumentWindow* { return front; }};
 
   std::unique_ptr<SingleFileWindow> open(const std::string& name, const PhotoDates& dates) {
-    auto doc = std::make_unique<LumSingleFileDoc>();
-    if (!doc->readFromURL(photo(name, dates), "JPEG", nullptr)) return nullptr;
-    auto window = std::make_unique<SingleFileWindow>(std::move(doc), context);
+    auto window = openSingle(name, dates);
     QObject::connect(window.get(), &DocumentWindow::windowClosing, &tools, &ToolWindows::documentWindowClosing);
-    window->show();
     return window;
   }
   InfoWindow& inspector() { return tools.inspector(); }
@@ -60,12 +49,6 @@ int rowOfTag(const InfoWindow& info, std::uint16_t tag) {
 QString originalShown(const InfoWindow& info) {
   const int row = rowOfTag(info, kDateTimeOriginal);
   return row < 0 ? QString() : info.table().model()->index(row, InfoTableModel::Value).data().toString();
-}
-
-void typeHour(OrbDatePicker& picker, const char* hour) {
-  picker.setFocused(Control::hourField);
-  QVERIFY(picker.controlTextDidChange(Control::hourField, hour));
-  picker.controlTextDidEndEditing(Control::hourField);
 }
 
 void selectRows(InfoWindow& info, const std::vector<int>& rows) {
@@ -121,7 +104,7 @@ class InfoWindowTest : public QObject {
     QSignalSpy saved(&window->document(), &LumSingleFileDoc::saveFinished);
     window->findChild<QPushButton*>("saveFileButton")->click();
     QVERIFY(saved.count() > 0 || saved.wait());
-    QVERIFY(window->document().lastSaveOutcome().saved);
+    QVERIFY(window->document().lastSaveOutcome().saved && !window->isWindowModified());
     // The save read the file again: the inspector shows the new file object.
     QCOMPARE(info.imageFile(), window->selectedImageFile());
     QCOMPARE(originalShown(info), QStringLiteral("2020:01:31 23:00:00"));
@@ -211,21 +194,22 @@ class InfoWindowTest : public QObject {
     QTRY_VERIFY(QGuiApplication::clipboard()->mimeData()->hasFormat(InfoClipboard::kEntryMimeType));
   }
 
-  void headingColoursFollowTheAppearance() {
-    struct Case {
-      bool dark, selected;
-      std::optional<QColor> background, text;
-    };
-    const Case cases[] = {
-        {false, false, QColor::fromRgbF(0.8f, 0.8f, 0.8f), std::nullopt},
-        {false, true, std::nullopt, std::nullopt},
-        {true, false, QColor::fromRgbF(0.95f, 0.95f, 0.95f), QColor(Qt::black)},
-        {true, true, std::nullopt, QColor(Qt::white)},
-    };
-    for (const Case& c : cases) {
-      const InfoHeadingColors colours = infoHeadingColors(c.dark, c.selected);
-      QCOMPARE(colours.background, c.background);
-      QCOMPARE(colours.text, c.text);
+  // Heading rows are shaded for the look in use; entry rows keep the
+  // table's own colours.
+  void headingsAreShadedForTheLook() {
+    Shell s;
+    auto window = s.open("a.jpg", {kA, kA, kA});
+    s.inspector().setImageFile(window->selectedImageFile());
+    const QAbstractItemModel& model = *s.inspector().table().model();
+    const int entry = rowOfTag(s.inspector(), kDateTimeOriginal);
+    Appearance::Follower follower(std::nullopt);
+    for (const auto& [preference, background, text] :
+         {std::tuple{Appearance::Preference::Dark, QColor::fromRgbF(0.95f, 0.95f, 0.95f), QVariant(QBrush(Qt::black))},
+          {Appearance::Preference::None, QColor::fromRgbF(0.8f, 0.8f, 0.8f), QVariant()}}) {
+      follower.setDesktopPreference(preference);
+      QCOMPARE(model.index(0, 0).data(Qt::BackgroundRole).value<QBrush>().color(), background);
+      QCOMPARE(model.index(0, 0).data(Qt::ForegroundRole), text);
+      QVERIFY(!model.index(entry, InfoTableModel::Value).data(Qt::BackgroundRole).isValid());
     }
   }
 

@@ -107,9 +107,6 @@ class StartupTest : public QObject {
   }
 };
 
-int runStartupTests(int argc, char* argv[]) {
-  StartupTest test;
-  return QTest::qExec(&test, argc, argv);
-}
+int runStartupTests(int argc, char* argv[]) { StartupTest test; return QTest::qExec(&test, argc, argv); }
 
 #include "StartupTest.moc"

@@ -9,12 +9,10 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTest>
 
 #include "app/loading/LoadProgressWindow.h"
 #include "app/sheets/FileListAlert.h"
 #include "app/sheets/OpenFileDialog.h"
-#include "app/single/SingleFileWindow.h"
 #include "app/support/AppFixture.h"
 
 namespace fs = std::filesystem;
@@ -127,9 +125,6 @@ class WindowsTest : public QObject {
   }
 };
 
-int runWindowsTests(int argc, char* argv[]) {
-  WindowsTest test;
-  return QTest::qExec(&test, argc, argv);
-}
+int runWindowsTests(int argc, char* argv[]) { WindowsTest test; return QTest::qExec(&test, argc, argv); }
 
 #include "WindowsTest.moc"
