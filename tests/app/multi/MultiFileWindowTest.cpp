@@ -41,7 +41,7 @@ class MultiFileWindowTest : public QObject {
   std::unique_ptr<MultiFileWindow> window_;
   std::unique_ptr<QAbstractItemModelTester> tester_;
 
-  MultiFileWindow& open(const std::vector<std::pair<std::string, PhotoDates>>& photos) {
+  void open(const std::vector<std::pair<std::string, PhotoDates>>& photos) {
     std::vector<std::unique_ptr<LumFileItemDoc>> items;
     for (const auto& [name, dates] : photos) items.push_back(openItem(f_->photo(name, dates)));
     tester_.reset();
@@ -51,7 +51,6 @@ class MultiFileWindowTest : public QObject {
     tester_ = std::make_unique<QAbstractItemModelTester>(&window_->model(),
                                                         QAbstractItemModelTester::FailureReportingMode::QtTest);
     window_->show();
-    return *window_;
   }
   LumMultiFileDoc& doc() { return window_->document(); }
   template <typename T>
@@ -99,7 +98,6 @@ class MultiFileWindowTest : public QObject {
     QVERIFY(apply.isEnabled());
     QTest::mouseClick(&apply, Qt::LeftButton);
     QCOMPARE(cell("a.jpg", Model::DateTimeOriginal), QString("2020:01:31 11:00:00"));
-    QCOMPARE(cell("b.jpg", Model::DateTime), QString("2020:01:01 00:30:00"));
     QCOMPARE(hours.value(), 0);  // the fields are cleared after an offset
     QCOMPARE(f_->actions.undo->text(), QString("Undo Forward (null)"));
     f_->actions.undo->trigger();

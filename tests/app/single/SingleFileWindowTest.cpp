@@ -29,7 +29,7 @@ class SingleFileWindowTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void linkOnSetsAllThreeWithOneUndoAndRestoreClearsIt() {
+  void linkOnSetsAllThreeWithOneUndoRestoreAndClose() {
     AppFixture s;
     auto window = s.openSingle("a.jpg", {kA, kB, kA});
     QVERIFY(window);
@@ -57,6 +57,14 @@ class SingleFileWindowTest : public QObject {
     QCOMPARE(window->undoStack().count(), 0);
     QVERIFY(!window->isWindowModified());
     QVERIFY(!window->findChild<QPushButton*>("saveFileButton")->isEnabled());
+    // Closing, the window tells the inspector there is no document.
+    std::vector<std::pair<QString, const void*>> posted;
+    QObject::connect(&LumNotificationCenter::defaultCenter(), &LumNotificationCenter::posted, window.get(),
+                     [&](const QString& name, const void* object) { posted.emplace_back(name, object); });
+    window->close();
+    QVERIFY(!posted.empty());
+    QCOMPARE(posted.back().first, QStringLiteral("LumDocumentDidChangeNotification"));
+    QVERIFY(posted.back().second == nullptr);
   }
 
   void sheetPreviewsOKStateAndShift() {
@@ -129,18 +137,6 @@ class SingleFileWindowTest : public QObject {
       QVERIFY(shown.width() == large->photo().width() || shown.height() == large->photo().height());
       QVERIFY(std::abs(shown.width() - 2 * shown.height()) <= 2);
     }
-  }
-
-  void closingPostsTheDocumentChange() {
-    AppFixture s;
-    auto window = s.openSingle("a.jpg", {kA, kA, kA});
-    std::vector<std::pair<QString, const void*>> posted;
-    QObject::connect(&LumNotificationCenter::defaultCenter(), &LumNotificationCenter::posted, window.get(),
-                     [&](const QString& name, const void* object) { posted.emplace_back(name, object); });
-    window->close();
-    QVERIFY(!posted.empty());
-    QCOMPARE(posted.back().first, QStringLiteral("LumDocumentDidChangeNotification"));
-    QVERIFY(posted.back().second == nullptr);
   }
 };
 
