@@ -1,6 +1,4 @@
 // The day count calculator window, driven by typing into its pickers.
-#include <QSignalSpy>
-#include <QTest>
 
 #include "app/ToolWindows.h"
 #include "app/calculator/DayCalculatorWindow.h"
@@ -38,63 +36,48 @@ class CalculatorTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void startsAtTodayWithNoDays();
-  void countsDaysBetweenTypedDates_data();
-  void countsDaysBetweenTypedDates();
-  void keepsItsDatesBetweenOpenings();
-};
-
-void CalculatorTest::startsAtTodayWithNoDays() {
-  DayCalculatorWindow window(nullptr, fixedNow());
-  for (DatePickerWidget* picker : {&window.picker1(), &window.picker2()}) {
-    const OrbDatePicker& model = picker->model();
-    QCOMPARE(QDate(int(model.year()), int(model.month()), int(model.day())), QDate(2026, 11, 24));
-    QVERIFY(!picker->fieldEditor(Control::hourField));  // dates only
+  // Both pickers start at today (dates only); then one window counts the
+  // days between each pair of typed dates.
+  void countsDaysBetweenTypedDates() {
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    DayCalculatorWindow window(nullptr, fixedNow());
+    for (DatePickerWidget* picker : {&window.picker1(), &window.picker2()}) {
+      const OrbDatePicker& model = picker->model();
+      QCOMPARE(QDate(int(model.year()), int(model.month()), int(model.day())), QDate(2026, 11, 24));
+      QVERIFY(!picker->fieldEditor(Control::hourField));
+    }
+    QCOMPARE(window.result(), QStringLiteral("0 days"));
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const struct { QDate first, second; const char* shown; } cases[] = {
+        {QDate(2024, 2, 28), QDate(2024, 3, 1), "2 days"},   {QDate(2024, 3, 1), QDate(2024, 2, 28), "2 days"},
+        {QDate(2024, 2, 28), QDate(2024, 2, 28), "0 days"},  {QDate(2023, 12, 31), QDate(2024, 1, 1), "1 day"},
+        {QDate(1, 1, 1), QDate(9999, 12, 31), "3,652,058 days"},
+    };
+    for (const auto& c : cases) {
+      QVERIFY(typeDate(window.picker1(), c.first) && typeDate(window.picker2(), c.second));
+      QCOMPARE(window.result(), QString(c.shown));
+    }
   }
-  QCOMPARE(window.result(), QStringLiteral("0 days"));
-}
 
-void CalculatorTest::countsDaysBetweenTypedDates_data() {
-  QTest::addColumn<QDate>("first");
-  QTest::addColumn<QDate>("second");
-  QTest::addColumn<QString>("shown");
-  QTest::newRow("same date") << QDate(2024, 2, 28) << QDate(2024, 2, 28) << "0 days";
-  QTest::newRow("over a leap day") << QDate(2024, 2, 28) << QDate(2024, 3, 1) << "2 days";
-  QTest::newRow("over a leap day, swapped") << QDate(2024, 3, 1) << QDate(2024, 2, 28) << "2 days";
-  QTest::newRow("one day") << QDate(2023, 12, 31) << QDate(2024, 1, 1) << "1 day";
-  QTest::newRow("whole range") << QDate(1, 1, 1) << QDate(9999, 12, 31) << "3,652,058 days";
-}
-
-void CalculatorTest::countsDaysBetweenTypedDates() {
-  QFETCH(QDate, first);
-  QFETCH(QDate, second);
-  QFETCH(QString, shown);
-  QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-  DayCalculatorWindow window(nullptr, fixedNow());
-  window.show();
-  window.activateWindow();
-  QVERIFY(QTest::qWaitForWindowActive(&window));
-  QVERIFY(typeDate(window.picker1(), first));
-  QVERIFY(typeDate(window.picker2(), second));
-  QCOMPARE(window.result(), shown);
-}
-
-void CalculatorTest::keepsItsDatesBetweenOpenings() {
-  AppFixture app;
-  ToolWindows tools(app.context, [] { return nullptr; });
-  app.actions.dayCalculator->trigger();
-  DayCalculatorWindow& window = tools.dayCalculator();
-  QVERIFY(QTest::qWaitForWindowExposed(&window));
-  QVERIFY(typeDate(window.picker1(), QDate(2000, 1, 1)));
-  const QString shown = window.result();
-  QVERIFY(shown != QStringLiteral("0 days"));
-  window.close();
-  app.actions.dayCalculator->trigger();
-  QCOMPARE(&tools.dayCalculator(), &window);
-  QVERIFY(window.isVisible());
-  QCOMPARE(window.result(), shown);
-  QCOMPARE(window.picker1().model().year(), 2000L);
-}
+  void keepsItsDatesBetweenOpenings() {
+    AppFixture app;
+    ToolWindows tools(app.context, [] { return nullptr; });
+    app.actions.dayCalculator->trigger();
+    DayCalculatorWindow& window = tools.dayCalculator();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(typeDate(window.picker1(), QDate(2000, 1, 1)));
+    const QString shown = window.result();
+    QVERIFY(shown != QStringLiteral("0 days"));
+    window.close();
+    app.actions.dayCalculator->trigger();
+    QCOMPARE(&tools.dayCalculator(), &window);
+    QVERIFY(window.isVisible());
+    QCOMPARE(window.result(), shown);
+    QCOMPARE(window.picker1().model().year(), 2000L);
+  }
+};
 
 QTEST_MAIN(CalculatorTest)
 #include "CalculatorTest.moc"

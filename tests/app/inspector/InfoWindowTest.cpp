@@ -6,25 +6,17 @@
 #include <QGuiApplication>
 #include <QItemSelectionModel>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QTableView>
-#include <QTest>
 
-#include <memory>
-
+#include "app/Appearance.h"
 #include "app/ToolWindows.h"
 #include "app/inspector/InfoClipboard.h"
 #include "app/inspector/InfoTableModel.h"
 #include "app/inspector/InfoWindow.h"
-#include "app/multi/MultiFileWindow.h"
-#include "app/single/SingleFileWindow.h"
 #include "app/support/AppFixture.h"
 #include "documents/LumNotificationCenter.h"
-#include "documents/PhotoFiles.h"
 
-namespace fs = std::filesystem;
 using doctest_support::PhotoDates;
-using Control = OrbDatePicker::Control;
 
 namespace {
 
@@ -37,11 +29,8 @@ struct Shell : AppFixture {
   ToolWindows tools{context, [this]() -> DocumentWindow* { return front; }};
 
   std::unique_ptr<SingleFileWindow> open(const std::string& name, const PhotoDates& dates) {
-    auto doc = std::make_unique<LumSingleFileDoc>();
-    if (!doc->readFromURL(photo(name, dates), "JPEG", nullptr)) return nullptr;
-    auto window = std::make_unique<SingleFileWindow>(std::move(doc), context);
+    auto window = openSingle(name, dates);
     QObject::connect(window.get(), &DocumentWindow::windowClosing, &tools, &ToolWindows::documentWindowClosing);
-    window->show();
     return window;
   }
   InfoWindow& inspector() { return tools.inspector(); }
@@ -60,12 +49,6 @@ int rowOfTag(const InfoWindow& info, std::uint16_t tag) {
 QString originalShown(const InfoWindow& info) {
   const int row = rowOfTag(info, kDateTimeOriginal);
   return row < 0 ? QString() : info.table().model()->index(row, InfoTableModel::Value).data().toString();
-}
-
-void typeHour(OrbDatePicker& picker, const char* hour) {
-  picker.setFocused(Control::hourField);
-  QVERIFY(picker.controlTextDidChange(Control::hourField, hour));
-  picker.controlTextDidEndEditing(Control::hourField);
 }
 
 void selectRows(InfoWindow& info, const std::vector<int>& rows) {
@@ -88,19 +71,14 @@ class InfoWindowTest : public QObject {
     InfoWindow& info = s.inspector();
     QCOMPARE(info.objectName(), QStringLiteral("LumInfo"));
     QCOMPARE(info.windowTitle(), QStringLiteral("Information"));
-    struct Step {
-      const char* notification;
-      const void* object;
-      const LumImageFile* shown;
-    };
-    const Step steps[] = {
+    const struct { const char* notification; const void* object; const LumImageFile* shown; } steps[] = {
         {kLumDocumentDidChangeNotification, a->documentObject(), a->selectedImageFile()},
         {kLumImageFileDidChangeNotification, b->selectedImageFile(), b->selectedImageFile()},
         {kLumImageFileDidChangeNotification, nullptr, nullptr},
         {kLumDocumentDidChangeNotification, b->documentObject(), b->selectedImageFile()},
         {kLumDocumentDidChangeNotification, nullptr, nullptr},
     };
-    for (const Step& step : steps) {
+    for (const auto& step : steps) {
       post(step.notification, step.object);
       QCOMPARE(info.imageFile(), step.shown);
       QCOMPARE(info.table().model()->rowCount() > 0, step.shown != nullptr);
@@ -121,7 +99,7 @@ class InfoWindowTest : public QObject {
     QSignalSpy saved(&window->document(), &LumSingleFileDoc::saveFinished);
     window->findChild<QPushButton*>("saveFileButton")->click();
     QVERIFY(saved.count() > 0 || saved.wait());
-    QVERIFY(window->document().lastSaveOutcome().saved);
+    QVERIFY(window->document().lastSaveOutcome().saved && !window->isWindowModified());
     // The save read the file again: the inspector shows the new file object.
     QCOMPARE(info.imageFile(), window->selectedImageFile());
     QCOMPARE(originalShown(info), QStringLiteral("2020:01:31 23:00:00"));
@@ -142,64 +120,54 @@ class InfoWindowTest : public QObject {
     item.trigger();
     QVERIFY(s.tools.isInspectorVisible());
     QCOMPARE(item.text(), QStringLiteral("Hide Information"));
-    QCOMPARE(posted, QList<const void*>{window->selectedImageFile()});
-    QCOMPARE(s.inspector().imageFile(), window->selectedImageFile());
+    QCOMPARE(posted, QList<const void*>{window->selectedImageFile()});  // the notification the inspector follows
 
     item.trigger();
     QVERIFY(!s.tools.isInspectorVisible());
     QCOMPARE(item.text(), QStringLiteral("Show Information"));
     QCOMPARE(posted.back(), nullptr);
-    QCOMPARE(s.inspector().imageFile(), nullptr);
 
-    // The window's own close button counts as hiding it.
+    // The window's own close button counts as hiding it; its frame is kept.
     item.trigger();
     QCOMPARE(item.text(), QStringLiteral("Hide Information"));
+    s.inspector().setGeometry(100, 120, 333, 444);
     s.inspector().close();
     QCOMPARE(item.text(), QStringLiteral("Show Information"));
+    QCOMPARE(InfoWindow(&s.settings).size(), QSize(333, 444));
   }
 
+  // Copy puts the selected rows on the clipboard as text lines and their
+  // entries, in row order, as archives that paste back equal; a heading
+  // copies text only.
   void copyPutsTextAndEntriesOnTheClipboard() {
     Shell s;
     auto window = s.open("a.jpg", {kA, kB, kA});
     InfoWindow& info = s.inspector();
     info.setImageFile(window->selectedImageFile());
-    const int original = rowOfTag(info, kDateTimeOriginal);
-    const int digitized = rowOfTag(info, 36868);
+    const int original = rowOfTag(info, kDateTimeOriginal), digitized = rowOfTag(info, 36868);
     QVERIFY(original > 0 && digitized > 0);
     const auto& rows = info.rows().IFDDataSources();
-    const auto line = [&](int row) {
-      return QString::fromStdString(rows[std::size_t(row)].tagName) + '\t' +
-             QString::fromStdString(rows[std::size_t(row)].value);
+    const QString originalLine = QStringLiteral("Date Time Original\t") + kA;
+    const struct { std::vector<int> selected; QStringList sortedText; std::vector<int> entryRows; } cases[] = {
+        {{original}, {originalLine}, {original}},
+        {{digitized, original}, {QStringLiteral("Date Time Digitized\t") + kB, originalLine},
+         {std::min(original, digitized), std::max(original, digitized)}},
+        {{0}, {QString::fromStdString(rows[0].tagName + '\t' + rows[0].value)}, {}},
     };
-
-    struct Case {
-      const char* name;
-      std::vector<int> rows;
-      std::vector<int> entryRows;
-    };
-    const Case cases[] = {
-        {"one entry", {original}, {original}},
-        {"two entries, in row order", {digitized, original}, {std::min(original, digitized), std::max(original, digitized)}},
-        {"a heading copies text only", {0}, {}},
-    };
-    for (const Case& c : cases) {
-      selectRows(info, c.rows);
+    for (const auto& c : cases) {
+      selectRows(info, c.selected);
       info.copyAction().trigger();
       const QMimeData* data = QGuiApplication::clipboard()->mimeData();
-      QVERIFY2(data, c.name);
-      QStringList lines;
-      for (int row : c.rows) lines << line(row);
-      lines.sort();
+      QVERIFY(data);
       QStringList copied = data->text().split('\n');
       copied.sort();
-      QCOMPARE(copied, lines);
+      QCOMPARE(copied, c.sortedText);
       const std::vector<OrbIFDEntry> entries = InfoClipboard::entriesFromMimeData(*data);
       QCOMPARE(entries.size(), c.entryRows.size());
       for (std::size_t i = 0; i < entries.size(); ++i)
-        QVERIFY2(entries[i].isEqualToEntry(*rows[std::size_t(c.entryRows[i])].entry), c.name);
+        QVERIFY(entries[i].isEqualToEntry(*rows[std::size_t(c.entryRows[i])].entry));
       QCOMPARE(data->hasFormat(InfoClipboard::kEntryMimeType), !c.entryRows.empty());
     }
-    QVERIFY(line(original).endsWith(QString::fromLatin1(kA)));
 
     // Ctrl+C in the table copies the entry too, not only the cell's text.
     info.show();
@@ -211,21 +179,22 @@ class InfoWindowTest : public QObject {
     QTRY_VERIFY(QGuiApplication::clipboard()->mimeData()->hasFormat(InfoClipboard::kEntryMimeType));
   }
 
-  void headingColoursFollowTheAppearance() {
-    struct Case {
-      bool dark, selected;
-      std::optional<QColor> background, text;
-    };
-    const Case cases[] = {
-        {false, false, QColor::fromRgbF(0.8f, 0.8f, 0.8f), std::nullopt},
-        {false, true, std::nullopt, std::nullopt},
-        {true, false, QColor::fromRgbF(0.95f, 0.95f, 0.95f), QColor(Qt::black)},
-        {true, true, std::nullopt, QColor(Qt::white)},
-    };
-    for (const Case& c : cases) {
-      const InfoHeadingColors colours = infoHeadingColors(c.dark, c.selected);
-      QCOMPARE(colours.background, c.background);
-      QCOMPARE(colours.text, c.text);
+  // Heading rows are shaded for the look in use; entry rows keep the
+  // table's own colours.
+  void headingsAreShadedForTheLook() {
+    Shell s;
+    auto window = s.open("a.jpg", {kA, kA, kA});
+    s.inspector().setImageFile(window->selectedImageFile());
+    const QAbstractItemModel& model = *s.inspector().table().model();
+    Appearance::Follower follower(std::nullopt);
+    for (const auto& [preference, background, text] :
+         {std::tuple{Appearance::Preference::Dark, QColor::fromRgbF(0.95f, 0.95f, 0.95f), QVariant(QBrush(Qt::black))},
+          {Appearance::Preference::None, QColor::fromRgbF(0.8f, 0.8f, 0.8f), QVariant()}}) {
+      follower.setDesktopPreference(preference);
+      QCOMPARE(model.index(0, 0).data(Qt::BackgroundRole).value<QBrush>().color(), background);
+      QCOMPARE(model.index(0, 0).data(Qt::ForegroundRole), text);
+      // An entry row's value cell is left to the table.
+      QVERIFY(!model.index(rowOfTag(s.inspector(), kDateTimeOriginal), 1).data(Qt::BackgroundRole).isValid());
     }
   }
 
@@ -248,15 +217,6 @@ class InfoWindowTest : public QObject {
     multi->close();
     QCOMPARE(info.imageFile(), nullptr);
     QCOMPARE(info.table().model()->rowCount(), 0);
-  }
-
-  void geometryIsKept() {
-    Shell s;
-    s.inspector().setGeometry(100, 120, 333, 444);
-    s.inspector().show();
-    s.inspector().hide();
-    InfoWindow again(&s.settings);
-    QCOMPARE(again.size(), QSize(333, 444));
   }
 };
 

@@ -12,12 +12,9 @@
 #include <QPushButton>
 #include <QScopeGuard>
 #include <QSpinBox>
-#include <QTest>
 #include <QUndoStack>
 
 #include <future>
-#include <optional>
-#include <set>
 
 #include "app/multi/BitmapImage.h"
 #include "app/multi/FileTableModel.h"
@@ -44,7 +41,7 @@ class MultiFileWindowTest : public QObject {
   std::unique_ptr<MultiFileWindow> window_;
   std::unique_ptr<QAbstractItemModelTester> tester_;
 
-  MultiFileWindow& open(const std::vector<std::pair<std::string, PhotoDates>>& photos) {
+  void open(const std::vector<std::pair<std::string, PhotoDates>>& photos) {
     std::vector<std::unique_ptr<LumFileItemDoc>> items;
     for (const auto& [name, dates] : photos) items.push_back(openItem(f_->photo(name, dates)));
     tester_.reset();
@@ -54,7 +51,6 @@ class MultiFileWindowTest : public QObject {
     tester_ = std::make_unique<QAbstractItemModelTester>(&window_->model(),
                                                         QAbstractItemModelTester::FailureReportingMode::QtTest);
     window_->show();
-    return *window_;
   }
   LumMultiFileDoc& doc() { return window_->document(); }
   template <typename T>
@@ -102,7 +98,6 @@ class MultiFileWindowTest : public QObject {
     QVERIFY(apply.isEnabled());
     QTest::mouseClick(&apply, Qt::LeftButton);
     QCOMPARE(cell("a.jpg", Model::DateTimeOriginal), QString("2020:01:31 11:00:00"));
-    QCOMPARE(cell("b.jpg", Model::DateTime), QString("2020:01:01 00:30:00"));
     QCOMPARE(hours.value(), 0);  // the fields are cleared after an offset
     QCOMPARE(f_->actions.undo->text(), QString("Undo Forward (null)"));
     f_->actions.undo->trigger();
@@ -164,17 +159,14 @@ class MultiFileWindowTest : public QObject {
     QVERIFY(!(window_->model().flags(absent) & Qt::ItemIsEditable));
     QCOMPARE(absent.data(Model::PlaceholderRole).toString(), QString("No Date-Time"));
 
-    typeInto("a.jpg", Model::DateTimeOriginal, "2021/3/4 5:06:07");
-    QCOMPARE(cell("a.jpg", Model::DateTimeOriginal), QString("2021:03:04 05:06:07"));
-    QCOMPARE(cell("a.jpg", Model::DateTime), QString::fromStdString(kA));
-    // With Shift the typed date goes to all three.
+    // With Shift the typed date goes to all three (what a typed text does is
+    // the document suite's). Typed last, the Shift would stay down for the
+    // next test's clicks.
     typeInto("b.jpg", Model::DateTimeDigitized, "2000-01-02 03:04:05", Qt::ShiftModifier);
     for (int column : {Model::DateTimeOriginal, Model::DateTimeDigitized, Model::DateTime})
       QCOMPARE(cell("b.jpg", column), QString("2000:01:02 03:04:05"));
-    QSignalSpy beeps(&doc(), &LumMultiFileDoc::beep);
-    typeInto("a.jpg", Model::DateTimeDigitized, "2021/3/4");
-    QCOMPARE(beeps.count(), 1);
-    QCOMPARE(cell("a.jpg", Model::DateTimeDigitized), QString::fromStdString(kA));
+    typeInto("a.jpg", Model::DateTimeOriginal, "2021/3/4 5:06:07");
+    QCOMPARE(cell("a.jpg", Model::DateTimeOriginal), QString("2021:03:04 05:06:07"));
 
     // The context menu restores the clicked file when it is outside the selection.
     window_->table().selectRow(rowOf("a.jpg"));
@@ -195,7 +187,6 @@ class MultiFileWindowTest : public QObject {
     table.selectRow(rowOf("b.jpg"));
     QCOMPARE(widget<QLineEdit>("pathField").text(), QString::fromStdString((f_->folder / "b.jpg").string()));
     QHeaderView* header = table.horizontalHeader();
-    std::set<std::vector<QString>> orders;
     for (int column = Model::FileName; column < Model::ColumnCount; ++column) {
       QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
                         QPoint(header->sectionViewportPosition(column) + 5, header->height() / 2));
@@ -203,9 +194,7 @@ class MultiFileWindowTest : public QObject {
       const int row = rowOf("b.jpg");
       QCOMPARE(doc().selectedRows(), std::vector<int>{row});
       QCOMPARE(table.selectionModel()->selectedRows(), QModelIndexList{window_->model().index(row, 0)});
-      orders.insert({cell(0, Model::FileName), cell(1, Model::FileName), cell(2, Model::FileName)});
     }
-    QVERIFY(orders.size() >= 3);
     // The same from the keyboard: Edit > Sort By; again turns the order round.
     QAction* byDateTime = window_->actions().sortMenu->actions().at(Model::DateTime - Model::FileName);
     byDateTime->trigger();
@@ -259,12 +248,9 @@ class MultiFileWindowTest : public QObject {
     releaseOnExit.dismiss();
     QVERIFY(finished.wait(20000));
     QVERIFY(!window_->savingSheet().isVisible());
+    // The alert comes up; what is saved and reported is the document suite's.
     QCOMPARE(f_->prompts.alerts.size(), std::size_t(1));
-    const auto& alert = f_->prompts.alerts.front();
-    QVERIFY(alert.message.contains("b.jpg"));
-    QVERIFY(alert.informativeText.contains(QString::fromStdString(std::system_category().message(EIO))));
-    QCOMPARE(readBytes(f_->folder / "a.jpg"), photoBytes({kA, kA, "2001:01:01 01:01:01"}));
-    QCOMPARE(doc().editedFileCount(), std::size_t(1));  // the failed file keeps its edit
+    QVERIFY(f_->prompts.alerts.front().message.contains("b.jpg"));
   }
 
   // Thumbnails are made for the rows in view only, and every row shows its

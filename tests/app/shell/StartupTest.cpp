@@ -39,27 +39,21 @@ class StartupTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void settingsDefaults() {
-    QTemporaryDir dir;
-    QSettings store(dir.filePath("s.ini"), QSettings::IniFormat);
-    Settings settings(store);
-    settings.registerDefaults();
-    QVERIFY(settings.showInformation() && !settings.showImageView() && !settings.useSingleWindow());
-    QCOMPARE(settings.tableViewRowHeight(), int(Settings::Medium));
-    QCOMPARE(settings.buildNumber(), 0);
-    // A stored choice survives the next start's defaults.
-    settings.setTableViewRowHeight(Settings::Small);
-    settings.registerDefaults();
-    QCOMPARE(settings.tableViewRowHeight(), int(Settings::Small));
-  }
-
-  // The table layout of builds before 92 is dropped once; later ones stay.
-  void oldTableLayoutIsDroppedOnce() {
+  // As at start-up: the defaults, which a stored choice survives, then the
+  // table layout of builds before 92 dropped once; later ones stay.
+  void settingsDefaultsAndTheOldTableLayout() {
     for (const auto& [storedBuild, layoutKept] : {std::pair{0, false}, {91, false}, {92, true}}) {
       QTemporaryDir dir;
       QSettings store(dir.filePath("s.ini"), QSettings::IniFormat);
       if (storedBuild) store.setValue("Lum Build Number", storedBuild);
       Settings settings(store);
+      settings.registerDefaults();
+      QVERIFY(settings.showInformation() && !settings.showImageView() && !settings.useSingleWindow());
+      QCOMPARE(settings.tableViewRowHeight(), int(Settings::Medium));
+      settings.setTableViewRowHeight(Settings::Small);
+      settings.registerDefaults();
+      QCOMPARE(settings.tableViewRowHeight(), int(Settings::Small));
+
       settings.setTableLayout("layout");
       settings.migrateFromOlderBuild();
       QCOMPARE(settings.tableLayout().isEmpty(), !layoutKept);
@@ -107,9 +101,6 @@ class StartupTest : public QObject {
   }
 };
 
-int runStartupTests(int argc, char* argv[]) {
-  StartupTest test;
-  return QTest::qExec(&test, argc, argv);
-}
+int runStartupTests(int argc, char* argv[]) { StartupTest test; return QTest::qExec(&test, argc, argv); }
 
 #include "StartupTest.moc"

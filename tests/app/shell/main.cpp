@@ -7,7 +7,5 @@ int runStartupTests(int argc, char* argv[]);
 
 int main(int argc, char* argv[]) {
   QApplication app(argc, argv);
-  int failed = runOpeningTests(argc, argv);
-  failed += runWindowsTests(argc, argv);
-  return failed + runStartupTests(argc, argv);
+  return runOpeningTests(argc, argv) + runWindowsTests(argc, argv) + runStartupTests(argc, argv);
 }

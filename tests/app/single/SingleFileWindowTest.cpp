@@ -1,56 +1,25 @@
-// The single-file window over real photo files: the link, the interval
-// sheet's previews and OK, saving exactly the changed dates, restore, the
-// photo and the window's notifications.
+// The single-file window over real photo files: the link, restore, the
+// interval sheet's previews and OK, the photo and the window's
+// notifications. Which dates a save writes is the document suite's; the
+// inspector's suite saves through the Save button.
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QSpinBox>
-#include <QTest>
-
-#include <memory>
 
 #include "app/sheets/ChangeByIntervalSheet.h"
 #include "app/single/PhotoView.h"
-#include "app/single/SingleFileWindow.h"
 #include "app/support/AppFixture.h"
-#include "app/support/FakePrompts.h"
 #include "datetime/DateAdditions.h"
 #include "documents/LumNotificationCenter.h"
-#include "documents/PhotoFiles.h"
 
 namespace fs = std::filesystem;
-using doctest_support::PhotoDates;
-using Control = OrbDatePicker::Control;
 
 namespace {
 
 constexpr const char* kA = "2020:01:31 10:00:00";
 constexpr const char* kB = "2019:06:01 08:30:00";
-
-struct Shell : AppFixture {
-
-  // A window over a new photo with these dates, shown.
-  std::unique_ptr<SingleFileWindow> open(const PhotoDates& dates) {
-    return openFile(doctest_support::writePhoto(folder, "a.jpg", dates));
-  }
-  std::unique_ptr<SingleFileWindow> openFile(const fs::path& path) {
-    auto doc = std::make_unique<LumSingleFileDoc>();
-    if (!doc->readFromURL(path, "JPEG", nullptr)) return nullptr;
-    auto window = std::make_unique<SingleFileWindow>(std::move(doc), context);
-    window->show();
-    return window;
-  }
-};
-
-// Types an hour into a picker's field and ends the editing, as the picker
-// control does.
-void typeHour(OrbDatePicker& picker, const char* hour) {
-  picker.setFocused(Control::hourField);
-  QVERIFY(picker.controlTextDidChange(Control::hourField, hour));
-  picker.controlTextDidEndEditing(Control::hourField);
-}
 
 std::string text(const std::optional<Instant>& date) { return date ? DateAdditions::tiffDateString(*date) : "none"; }
 
@@ -60,9 +29,9 @@ class SingleFileWindowTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void linkOnSetsAllThreeWithOneUndo() {
-    Shell s;
-    auto window = s.open({kA, kB, kA});
+  void linkOnSetsAllThreeWithOneUndoRestoreAndClose() {
+    AppFixture s;
+    auto window = s.openSingle("a.jpg", {kA, kB, kA});
     QVERIFY(window);
     auto* link = window->findChild<QPushButton*>("linkButton");
     QCOMPARE(link->text(), QStringLiteral("Synchronize"));
@@ -79,12 +48,28 @@ class SingleFileWindowTest : public QObject {
     const LumSingleFileDoc::Dates& back = window->document().currentDates();
     QCOMPARE(text(back[0]) + text(back[1]) + text(back[2]), std::string(kA) + kB + kA);
     QVERIFY(!window->isWindowModified());
+    // Restore takes the file's values and clears the undo history.
+    typeHour(window->document().picker(DateTargets::Original), "03");
+    QVERIFY(window->isWindowModified());
+    window->findChild<QPushButton*>("restoreButton")->click();
+    const LumSingleFileDoc::Dates& restored = window->document().currentDates();
+    QCOMPARE(text(restored[0]) + text(restored[1]) + text(restored[2]), std::string(kA) + kB + kA);
+    QCOMPARE(window->undoStack().count(), 0);
+    QVERIFY(!window->isWindowModified());
     QVERIFY(!window->findChild<QPushButton*>("saveFileButton")->isEnabled());
+    // Closing, the window tells the inspector there is no document.
+    std::vector<std::pair<QString, const void*>> posted;
+    QObject::connect(&LumNotificationCenter::defaultCenter(), &LumNotificationCenter::posted, window.get(),
+                     [&](const QString& name, const void* object) { posted.emplace_back(name, object); });
+    window->close();
+    QVERIFY(!posted.empty());
+    QCOMPARE(posted.back().first, QStringLiteral("LumDocumentDidChangeNotification"));
+    QVERIFY(posted.back().second == nullptr);
   }
 
   void sheetPreviewsOKStateAndShift() {
-    Shell s;
-    auto window = s.open({kA, kB, std::nullopt});
+    AppFixture s;
+    auto window = s.openSingle("a.jpg", {kA, kB, std::nullopt});
     window->findChild<QPushButton*>("intervalButton")->click();
     ChangeByIntervalSheet& sheet = window->intervalSheet();
     QTRY_VERIFY(sheet.isVisible());
@@ -128,53 +113,9 @@ class SingleFileWindowTest : public QObject {
     QCOMPARE(window->undoStack().count(), 1);
   }
 
-  void saveWritesExactlyTheChangedPickers_data() {
-    QTest::addColumn<int>("files");  // 0: all three dates, 1: the original only
-    QTest::addColumn<bool>("linked");
-    QTest::addColumn<int>("picker");
-    QTest::newRow("digitized alone") << 0 << false << int(DateTargets::Digitized);
-    QTest::newRow("linked") << 0 << true << int(DateTargets::Edited);
-    QTest::newRow("linked, absent dates stay absent") << 1 << true << int(DateTargets::Original);
-  }
-  void saveWritesExactlyTheChangedPickers() {
-    QFETCH(int, files);
-    QFETCH(bool, linked);
-    QFETCH(int, picker);
-    const PhotoDates dates = files == 0 ? PhotoDates{kA, kB, kA} : PhotoDates{kA, std::nullopt, std::nullopt};
-    Shell s;
-    auto window = s.open(dates);
-    window->document().setLinked(linked);
-    typeHour(window->document().picker(static_cast<DateTargets::Index>(picker)), "23");
-    // Linked, every date the file has takes the typed picker's value.
-    const std::array<std::optional<std::string>, 3> texts{dates.original, dates.digitized, dates.edited};
-    const auto changed = [&](int which) -> std::optional<std::string> {
-      if (!texts[which] || (!linked && which != picker)) return texts[which];
-      return std::string(*texts[picker]).replace(11, 2, "23");
-    };
-    const PhotoDates expected{changed(0), changed(1), changed(2)};
-    QSignalSpy saved(&window->document(), &LumSingleFileDoc::saveFinished);
-    window->findChild<QPushButton*>("saveFileButton")->click();
-    QVERIFY(saved.count() > 0 || saved.wait());
-    QVERIFY(window->document().lastSaveOutcome().saved);
-    QCOMPARE(doctest_support::readBytes(s.folder / "a.jpg"), doctest_support::photoBytes(expected));
-    QVERIFY(!window->isWindowModified());
-  }
-
-  void restoreTakesTheFileValuesAndClearsUndo() {
-    Shell s;
-    auto window = s.open({kA, kB, kA});
-    typeHour(window->document().picker(DateTargets::Original), "03");
-    QVERIFY(window->isWindowModified());
-    window->findChild<QPushButton*>("restoreButton")->click();
-    QCOMPARE(text(window->document().currentDateTimeOriginal()), std::string(kA));
-    QCOMPARE(window->undoStack().count(), 0);
-    QVERIFY(!window->isWindowModified());
-    QVERIFY(!window->findChild<QPushButton*>("saveFileButton")->isEnabled());
-  }
-
   void noDatesDisableTheButtonsAndThePhotoFitsWithoutEnlarging() {
-    Shell s;
-    auto window = s.open({std::nullopt, std::nullopt, std::nullopt});
+    AppFixture s;
+    auto window = s.openSingle("a.jpg", {std::nullopt, std::nullopt, std::nullopt});
     QVERIFY(!window->findChild<QPushButton*>("linkButton")->isEnabled());
     QVERIFY(!window->findChild<QPushButton*>("intervalButton")->isEnabled());
     QTRY_VERIFY(window->photo().hasImage());
@@ -185,7 +126,7 @@ class SingleFileWindowTest : public QObject {
     // when the window grows.
     const fs::path big = s.folder / "big.jpg";
     doctest_support::writeBytes(big, lumtest::encodeJpeg(1600, 800));
-    auto large = s.openFile(big);
+    auto large = s.openSingle(big);
     QVERIFY(large);
     QTRY_VERIFY(large->photo().hasImage());
     for (const QSize size : {QSize(500, 600), QSize(900, 700)}) {
@@ -196,18 +137,6 @@ class SingleFileWindowTest : public QObject {
       QVERIFY(shown.width() == large->photo().width() || shown.height() == large->photo().height());
       QVERIFY(std::abs(shown.width() - 2 * shown.height()) <= 2);
     }
-  }
-
-  void closingPostsTheDocumentChange() {
-    Shell s;
-    auto window = s.open({kA, kA, kA});
-    std::vector<std::pair<QString, const void*>> posted;
-    QObject::connect(&LumNotificationCenter::defaultCenter(), &LumNotificationCenter::posted, window.get(),
-                     [&](const QString& name, const void* object) { posted.emplace_back(name, object); });
-    window->close();
-    QVERIFY(!posted.empty());
-    QCOMPARE(posted.back().first, QStringLiteral("LumDocumentDidChangeNotification"));
-    QVERIFY(posted.back().second == nullptr);
   }
 };
 

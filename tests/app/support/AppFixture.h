@@ -5,6 +5,7 @@
 
 #include <QSettings>
 #include <QSignalSpy>
+#include <QTest>
 #include <QTemporaryDir>
 #include <QUndoGroup>
 
@@ -13,6 +14,7 @@
 #include "app/DocumentController.h"
 #include "app/DocumentWindow.h"
 #include "app/multi/MultiFileWindow.h"
+#include "app/single/SingleFileWindow.h"
 #include "app/preferences/Settings.h"
 #include "app/support/FakePrompts.h"
 #include "documents/LumMultiFileDoc.h"
@@ -35,6 +37,17 @@ struct AppFixture {
                                                                           "2020:01:31 10:00:00", std::nullopt}) {
     return doctest_support::writePhoto(folder, name, dates);
   }
+  // A shown single-file window over a photo; none when it cannot be read.
+  std::unique_ptr<SingleFileWindow> openSingle(const std::filesystem::path& path) {
+    auto doc = std::make_unique<LumSingleFileDoc>();
+    if (!doc->readFromURL(path, "JPEG", nullptr)) return nullptr;
+    auto window = std::make_unique<SingleFileWindow>(std::move(doc), context);
+    window->show();
+    return window;
+  }
+  std::unique_ptr<SingleFileWindow> openSingle(const std::string& name, const doctest_support::PhotoDates& dates) {
+    return openSingle(photo(name, dates));
+  }
   // Runs an opening and waits until it is over.
   bool waitForOpening(const std::function<void()>& start) {
     QSignalSpy finished(&controller, &DocumentController::openingFinished);
@@ -53,3 +66,11 @@ struct AppFixture {
     return rows;
   }
 };
+
+// Types an hour into a picker's field and ends the editing, as the picker
+// control does.
+inline void typeHour(OrbDatePicker& picker, const char* hour) {
+  picker.setFocused(OrbDatePicker::Control::hourField);
+  QVERIFY(picker.controlTextDidChange(OrbDatePicker::Control::hourField, hour));
+  picker.controlTextDidEndEditing(OrbDatePicker::Control::hourField);
+}

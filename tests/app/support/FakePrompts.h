@@ -12,17 +12,14 @@
 class FakePrompts : public Prompts {
  public:
   std::optional<OpenRequest> nextOpenRequest;  // taken by the next open dialog
-  OpenStyle nextOpenStyle = OpenStyle::OneWindow;
   std::vector<std::size_t> askedCounts;  // one per "how to open" question
   std::vector<Alert> alerts;
   std::function<void()> onAlert;  // runs when an alert comes up
 
-  std::optional<OpenRequest> chooseFilesToOpen(QWidget*, bool) override {
-    return std::exchange(nextOpenRequest, std::nullopt);
-  }
-  OpenStyle askHowToOpen(std::size_t count) override {
+  std::optional<OpenRequest> chooseFilesToOpen(QWidget*, bool) override { return std::exchange(nextOpenRequest, {}); }
+  OpenStyle askHowToOpen(std::size_t count) override {  // always one window
     askedCounts.push_back(count);
-    return nextOpenStyle;
+    return OpenStyle::OneWindow;
   }
   void showCriticalAlert(QWidget*, const Alert& alert) override {
     alerts.push_back(alert);

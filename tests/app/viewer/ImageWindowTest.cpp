@@ -5,11 +5,6 @@
 #include <QAction>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QSignalSpy>
-#include <QTest>
-
-#include <memory>
-#include <optional>
 
 #include "app/ToolWindows.h"
 #include "app/multi/FileTableView.h"
@@ -76,33 +71,25 @@ class ImageWindowTest : public QObject {
   void init() { f_.emplace(); }
   void cleanup() { f_.reset(); }
 
-  void informationText_data() {
-    QTest::addColumn<std::optional<std::string>>("model");
-    QTest::addColumn<bool>("spoiled");   // the file is no image any more when shown
-    QTest::addColumn<bool>("showInfo");  // the stored choice
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QSize>("picture");
-    const std::optional<std::string> camera("Cam X"), none;
-    QTest::newRow("with model") << camera << false << true << "16 x 8, Cam X" << QSize(16, 8);
-    QTest::newRow("without model") << none << false << true << "16 x 8" << QSize(16, 8);
-    QTest::newRow("text hidden by choice") << camera << false << false << "16 x 8, Cam X" << QSize(16, 8);
-    QTest::newRow("cannot be decoded") << camera << true << true << "" << QSize(0, 0);
-  }
+  // The text with and without a model, hidden by the stored choice, and a
+  // file that is no image any more when shown.
   void informationText() {
-    QFETCH(std::optional<std::string>, model);
-    QFETCH(bool, spoiled);
-    QFETCH(bool, showInfo);
-    QFETCH(QString, text);
-    QFETCH(QSize, picture);
-    const auto doc = item("a.jpg", photoWithModel(model));
-    if (spoiled) writeBytes(f_->folder / "a.jpg", {0xFF, 0xD8, 0xFF, 0xD9});
-    f_->settings.setShowInformation(showInfo);
-    ImageWindow window(f_->settings);
-    QVERIFY(show(window, &doc->imageFile()));
-    QCOMPARE(textOf(window), text);
-    QCOMPARE(textShown(window), showInfo && !text.isEmpty());
-    QCOMPARE(pictureSize(window), picture);
-    QCOMPARE(window.windowTitle(), QString("a.jpg"));
+    const std::optional<std::string> camera("Cam X"), none;
+    const struct { std::optional<std::string> model; bool spoiled, showInfo; const char* text; QSize picture; } cases[] = {
+        {camera, false, true, "16 x 8, Cam X", QSize(16, 8)}, {none, false, true, "16 x 8", QSize(16, 8)},
+        {camera, false, false, "16 x 8, Cam X", QSize(16, 8)}, {camera, true, true, "", QSize(0, 0)},
+    };
+    for (const auto& c : cases) {
+      const auto doc = item("a.jpg", photoWithModel(c.model));
+      if (c.spoiled) writeBytes(f_->folder / "a.jpg", {0xFF, 0xD8, 0xFF, 0xD9});
+      f_->settings.setShowInformation(c.showInfo);
+      ImageWindow window(f_->settings);
+      QVERIFY(show(window, &doc->imageFile()));
+      QCOMPARE(textOf(window), QString(c.text));
+      QCOMPARE(textShown(window), c.showInfo && *c.text);
+      QCOMPARE(pictureSize(window), c.picture);
+      QCOMPARE(window.windowTitle(), QString("a.jpg"));
+    }
   }
 
   void sameFileTwiceIsNotReadAgain() {
@@ -117,35 +104,24 @@ class ImageWindowTest : public QObject {
     QCOMPARE(textOf(window), QString("16 x 8, Cam X"));
   }
 
-  void clickTogglesTextDragDoesNot_data() {
-    QTest::addColumn<QPoint>("move");
-    QTest::addColumn<bool>("toggles");
-    QTest::newRow("click") << QPoint() << true;
-    QTest::newRow("drag") << QPoint(5, 3) << false;
-  }
+  // A drag pans and leaves the text as it is; a click and the I key toggle
+  // it, and the stored choice and the menu item with it.
   void clickTogglesTextDragDoesNot() {
-    QFETCH(QPoint, move);
-    QFETCH(bool, toggles);
     const auto doc = item("a.jpg", photoWithModel("Cam X"));
-    ImageWindow window(f_->settings);
-    QVERIFY(show(window, &doc->imageFile()));
-    QVERIFY(textShown(window));
-    clickOrDrag(window, move);
-    QCOMPARE(textShown(window), !toggles);
-    QCOMPARE(f_->settings.showInformation(), !toggles);
-    QCOMPARE(window.findChild<QAction*>("imageInformationAction")->isChecked(), !toggles);
-  }
-
-  void keyShortcutTogglesText() {
-    const auto doc = item("a.jpg", photoWithModel(std::nullopt));
     ImageWindow window(f_->settings);
     window.show();
     QVERIFY(QTest::qWaitForWindowActive(&window));
     QVERIFY(show(window, &doc->imageFile()));
-    QTest::keyClick(&window, Qt::Key_I);
-    QVERIFY(!textShown(window));
-    QTest::keyClick(&window, Qt::Key_I);
-    QVERIFY(textShown(window));
+    const auto toggle = [&](const std::function<void()>& act, bool expected) {
+      act();
+      QCOMPARE(textShown(window), expected);
+      QCOMPARE(f_->settings.showInformation(), expected);
+      QCOMPARE(window.findChild<QAction*>("imageInformationAction")->isChecked(), expected);
+    };
+    toggle([&] { clickOrDrag(window, QPoint(5, 3)); }, true);
+    toggle([&] { clickOrDrag(window, QPoint()); }, false);
+    toggle([&] { QTest::keyClick(&window, Qt::Key_I); }, true);
+    toggle([&] { QTest::keyClick(&window, Qt::Key_I); }, false);
   }
 
   void askedForNothingWhileEmptyStaysEmpty() {
@@ -168,7 +144,6 @@ class ImageWindowTest : public QObject {
     window.show();
     tools.showImageWindow();  // nothing selected: the viewer opens empty
     ImageWindow& viewer = tools.imageWindow();
-    QVERIFY(viewer.isVisible());
 
     QSignalSpy shown(&viewer, &ImageWindow::imageShown);
     const int rowB = *window.document().rowOf(window.document().itemForURL(f_->folder / "b.jpg"));
@@ -184,24 +159,21 @@ class ImageWindowTest : public QObject {
     f_->context.tools = nullptr;
   }
 
-  void launchReopensViewerWhenItWasOpen_data() {
-    QTest::addColumn<bool>("wasOpen");
-    QTest::newRow("was open") << true;
-    QTest::newRow("was closed") << false;
-  }
   void launchReopensViewerWhenItWasOpen() {
-    QFETCH(bool, wasOpen);
-    f_->settings.setShowImageView(wasOpen);
-    ToolWindows tools(f_->context, [] { return nullptr; });
-    tools.restoreImageWindowAtLaunch();
-    QCOMPARE(tools.isImageWindowVisible(), wasOpen);
-    if (wasOpen) QCOMPARE(tools.imageWindow().imageFile(), nullptr);
-    // At quit the viewer's state is what is stored, whatever it was.
-    if (wasOpen) tools.imageWindow().close();
-    else tools.showImageWindow();
-    tools.rememberImageWindow();
-    QCOMPARE(f_->settings.showImageView(), !wasOpen);
-    QVERIFY(!f_->settings.windowFrame("LumImageWindow").isEmpty());
+    for (const bool wasOpen : {true, false}) {
+      f_.emplace();  // nothing stored from the case before
+      f_->settings.setShowImageView(wasOpen);
+      ToolWindows tools(f_->context, [] { return nullptr; });
+      tools.restoreImageWindowAtLaunch();
+      QCOMPARE(tools.isImageWindowVisible(), wasOpen);
+      if (wasOpen) QCOMPARE(tools.imageWindow().imageFile(), nullptr);
+      // At quit the viewer's state is what is stored, whatever it was.
+      if (wasOpen) tools.imageWindow().close();
+      else tools.showImageWindow();
+      tools.rememberImageWindow();
+      QCOMPARE(f_->settings.showImageView(), !wasOpen);
+      QVERIFY(!f_->settings.windowFrame("LumImageWindow").isEmpty());
+    }
   }
 };
 

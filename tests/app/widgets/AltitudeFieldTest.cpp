@@ -31,73 +31,62 @@ class AltitudeFieldTest : public QObject {
   Q_OBJECT
 
  private slots:
-  void buttonStaysAtTheRightEdge_data();
-  void buttonStaysAtTheRightEdge();
-  void typedTextStopsShortOfTheButton();
-  void tabMovesFromTheTextToTheButton();
-  void buttonCanBeHiddenAndWired();
+  // One resize after another: the button follows the right edge.
+  void buttonStaysAtTheRightEdge() {
+    OrbAltitudeGetterField field;
+    field.show();
+    for (const QSize size : {QSize(80, 24), QSize(300, 40)}) {
+      field.resize(size);
+      const QRect button = field.getAltitudeButton()->geometry();
+      QCOMPARE(button.size(), QSize(20, 20));
+      QCOMPARE(button.right(), size.width() - 1 - 2);  // a gap of 2 to the edge
+      QCOMPARE(button.center().y(), QRect(QPoint(), size).center().y());
+      QCOMPARE(field.indicator()->geometry().center(), button.center());
+      QVERIFY(field.indicator()->isHidden());
+    }
+  }
+
+  // Tab goes from the text to the button and on; typed text stops short of
+  // the button.
+  void keyViewsAndTextStayClearOfEachOther() {
+    Stage s;
+    QVERIFY(QTest::qWaitForWindowActive(&s.window));
+    QCOMPARE(s.field->firstKeyView(), s.field);
+    QCOMPARE(s.field->lastKeyView(), s.field->getAltitudeButton());
+    s.field->setFocus(Qt::TabFocusReason);
+    QTRY_VERIFY(s.field->hasFocus());
+    QTest::keyClick(s.field, Qt::Key_Tab);
+    QTRY_VERIFY(s.field->getAltitudeButton()->hasFocus());
+    QTest::keyClick(s.field->getAltitudeButton(), Qt::Key_Tab);
+    QTRY_VERIFY(s.after->hasFocus());
+
+    s.field->setFocus();
+    QTRY_VERIFY(s.field->hasFocus());
+    QTest::keyClicks(s.field, QString(60, u'8'));
+    s.field->end(false);
+    s.field->repaint();  // the line edit scrolls its text when it paints
+    const QRect cursor = s.field->inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    // The caret stands in the middle of the rectangle the field reports.
+    QVERIFY2(cursor.center().x() < s.field->getAltitudeButton()->geometry().left(), "the text runs under the button");
+  }
+
+  void buttonCanBeHiddenAndWired() {
+    Stage s;
+    QToolButton* button = s.field->getAltitudeButton();
+    QVERIFY(button->isVisible());
+    s.field->setButtonAppeared(false);
+    QVERIFY(!button->isVisible());
+    s.field->setButtonAppeared(true);
+    QVERIFY(button->isVisible());
+    // Wiring replaces the earlier action: one press, one call of the last.
+    int first = 0, second = 0;
+    s.field->setButtonAction(&s.window, [&first] { ++first; });
+    s.field->setButtonAction(&s.window, [&second] { ++second; });
+    button->click();
+    QCOMPARE(first, 0);
+    QCOMPARE(second, 1);
+  }
 };
-
-void AltitudeFieldTest::buttonStaysAtTheRightEdge_data() {
-  QTest::addColumn<QSize>("size");
-  QTest::newRow("narrow") << QSize(80, 24);
-  QTest::newRow("wide and tall") << QSize(300, 40);
-}
-
-void AltitudeFieldTest::buttonStaysAtTheRightEdge() {
-  QFETCH(QSize, size);
-  OrbAltitudeGetterField field;
-  field.resize(size);
-  field.show();
-  const QRect button = field.getAltitudeButton()->geometry();
-  QCOMPARE(button.size(), QSize(20, 20));
-  QCOMPARE(button.right(), size.width() - 1 - 2);  // a gap of 2 to the edge
-  QCOMPARE(button.center().y(), QRect(QPoint(), size).center().y());
-  QCOMPARE(field.indicator()->geometry().center(), button.center());
-  QVERIFY(field.indicator()->isHidden());
-}
-
-void AltitudeFieldTest::typedTextStopsShortOfTheButton() {
-  Stage s;
-  QVERIFY(QTest::qWaitForWindowActive(&s.window));
-  s.field->setFocus();
-  QTest::keyClicks(s.field, QString(60, u'8'));
-  s.field->end(false);
-  s.field->repaint();  // the line edit scrolls its text when it paints
-  const QRect cursor = s.field->inputMethodQuery(Qt::ImCursorRectangle).toRect();
-  // The caret stands in the middle of the rectangle the field reports.
-  QVERIFY2(cursor.center().x() < s.field->getAltitudeButton()->geometry().left(), "the text runs under the button");
-}
-
-void AltitudeFieldTest::tabMovesFromTheTextToTheButton() {
-  Stage s;
-  QVERIFY(QTest::qWaitForWindowActive(&s.window));
-  QCOMPARE(s.field->firstKeyView(), s.field);
-  QCOMPARE(s.field->lastKeyView(), s.field->getAltitudeButton());
-  s.field->setFocus(Qt::TabFocusReason);
-  QTRY_VERIFY(s.field->hasFocus());
-  QTest::keyClick(s.field, Qt::Key_Tab);
-  QTRY_VERIFY(s.field->getAltitudeButton()->hasFocus());
-  QTest::keyClick(s.field->getAltitudeButton(), Qt::Key_Tab);
-  QTRY_VERIFY(s.after->hasFocus());
-}
-
-void AltitudeFieldTest::buttonCanBeHiddenAndWired() {
-  Stage s;
-  QToolButton* button = s.field->getAltitudeButton();
-  QVERIFY(button->isVisible());
-  s.field->setButtonAppeared(false);
-  QVERIFY(!button->isVisible());
-  s.field->setButtonAppeared(true);
-  QVERIFY(button->isVisible());
-  // Wiring replaces the earlier action: one press, one call of the last.
-  int first = 0, second = 0;
-  s.field->setButtonAction(&s.window, [&first] { ++first; });
-  s.field->setButtonAction(&s.window, [&second] { ++second; });
-  button->click();
-  QCOMPARE(first, 0);
-  QCOMPARE(second, 1);
-}
 
 QTEST_MAIN(AltitudeFieldTest)
 #include "AltitudeFieldTest.moc"
