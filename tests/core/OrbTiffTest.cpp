@@ -28,12 +28,6 @@ std::unique_ptr<OrbTiff> parseExact(const std::vector<std::uint8_t>& block, std:
   return OrbTiff::exifWithPtr(orb::ByteView(exact.get(), block.size()), &location, maxLocation);
 }
 
-Tags tagsOf(const std::vector<const OrbIFDEntry*>& entries) {
-  Tags out;
-  for (const auto* e : entries) out.push_back(e->ifdTag());
-  return out;
-}
-
 TEST(OrbTiffHeader, AcceptsOnlyTheTwoByteOrdersWithTheirMagic) {
   const std::pair<std::vector<std::uint8_t>, bool> cases[] = {
       {{'I', 'I', 0x2A, 0, 8, 0, 0, 0, 0, 0}, true},  {{'M', 'M', 0, 0x2A, 0, 0, 0, 8, 0, 0}, true},
@@ -71,8 +65,10 @@ TEST(OrbTiffChanges, LookupsCopiesAndRemovals) {
   builder.ifd0().exif().ascii(0x9004, "2024:01:02 03:04:05").ascii(0x9003, "2024:01:02 03:04:05");
   builder.ifd0().exif().undefined(0x9000, {'0', '2', '3', '2'});
   auto tiff = parse(builder.build());
-  const auto lookup = [&](Tags tags, std::uint32_t ifdID, std::size_t index = 0) {
-    return tagsOf(static_cast<const OrbTiff&>(*tiff).entriesWithIFDTags(tags, ifdID, index));
+  const auto lookup = [&](Tags tags, std::uint32_t ifdID) {
+    Tags out;
+    for (const auto* e : static_cast<const OrbTiff&>(*tiff).entriesWithIFDTags(tags, ifdID, 0)) out.push_back(e->ifdTag());
+    return out;
   };
   // No tags: the IFD's entries ordered by tag; tags: their order, missing ones skipped, duplicates repeated.
   EXPECT_EQ(lookup({}, kExifIFDID), (Tags{0x9000, 0x9003, 0x9004}));

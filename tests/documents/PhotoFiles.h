@@ -66,8 +66,7 @@ inline std::unique_ptr<LumMultiFileDoc> openDocument(const std::vector<std::file
   ensureApplication();
   std::vector<std::unique_ptr<LumFileItemDoc>> items;
   for (const auto& path : paths)
-    if (auto image = LumImageFile::imageFileWithURL(path, nullptr))
-      items.push_back(std::make_unique<LumFileItemDoc>(path, std::move(image)));
+    if (auto item = openItem(path)) items.push_back(std::move(item));
   return std::make_unique<LumMultiFileDoc>(std::move(items));
 }
 

@@ -42,7 +42,7 @@ struct SingleDocFixture : ::testing::Test {
   }
 };
 
-TEST_F(SingleDocFixture, LinkedChangeUndoAndRestore) {
+TEST_F(SingleDocFixture, LinkedChangeAndUndo) {
   open({kO, kD, kE});
   EXPECT_FALSE(doc.getTitleForAlertWhenCloseDociment());
   doc.setLinked(true);
@@ -56,14 +56,9 @@ TEST_F(SingleDocFixture, LinkedChangeUndoAndRestore) {
   EXPECT_FALSE(doc.hasEditedFile());
   EXPECT_FALSE(doc.changeDateWithYears(8000, 0, 0, 0, 0, 0, true, 2));  // past 9999: refused whole
   EXPECT_EQ(current(), (Three{kO, kD, kE}));
-  doc.undoStack().redo();
-  type(Edited, Ctl::minuteField, "59");
-  doc.restore();  // the file's values, with no way back
-  EXPECT_EQ(current(), (Three{kO, kD, kE}));
-  EXPECT_FALSE(doc.undoStack().canUndo() || doc.hasEditedFile());
-  // Link and change by interval need at least one date.
-  open({std::nullopt, std::nullopt, std::nullopt});
-  EXPECT_FALSE(doc.isLinkEnabled() || doc.isChangeByIntervalEnabled());
+  // Restore, which clears the history as well, is the window suite's.
+  // Link and change by interval need at least one date (none: the window
+  // suite's disabled buttons); one is enough.
   open({std::nullopt, std::nullopt, kE});
   EXPECT_TRUE(doc.isChangeByIntervalEnabled());
 }

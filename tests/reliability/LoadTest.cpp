@@ -39,9 +39,6 @@ TEST(Load, ManyFilesStayBoundedLeakNoDescriptorAndEndAsIntended) {
   const auto paths = reltest::writeSmallPhotos(folder.path(), count);
   std::vector<std::vector<std::uint8_t>> intended;
   for (const fs::path& p : paths) intended.push_back(reltest::shiftedBytes(lumtest::readFile(p), {0, 0, 1, 0, 0, 1}));
-  const auto expectIntended = [&] {
-    for (std::size_t i = 0; i < paths.size(); ++i) ASSERT_EQ(lumtest::readFile(paths[i]), intended[i]) << paths[i];
-  };
 
   doctest_support::ensureApplication();
   const double descriptorsBefore = openDescriptors(), residentBefore = residentKB();
@@ -49,10 +46,7 @@ TEST(Load, ManyFilesStayBoundedLeakNoDescriptorAndEndAsIntended) {
     auto doc = doctest_support::openDocument(paths);
     ASSERT_EQ(doc->rowCount(), count);
     const double descriptorsLoaded = openDescriptors(), perFileKB = (residentKB() - residentBefore) / count;
-    std::ifstream maps("/proc/self/maps");
-    for (std::string line; std::getline(maps, line);)
-      EXPECT_EQ(line.find(folder.path().string()), std::string::npos) << "an opened file stays mapped: " << line;
-    maps.close();
+    // That an opened file stays unmapped is the image file suite's.
 
     reltest::shiftAllOneDay(*doc);
     doc->undoStack().undo();
@@ -76,16 +70,15 @@ TEST(Load, ManyFilesStayBoundedLeakNoDescriptorAndEndAsIntended) {
     reltest::reportFigure("load: open descriptors after loading", descriptorsLoaded);
     reltest::reportFigure("load: open descriptors after saving", descriptorsSaved);
   }
-  expectIntended();
+  for (std::size_t i = 0; i < paths.size(); ++i) ASSERT_EQ(lumtest::readFile(paths[i]), intended[i]) << paths[i];
   EXPECT_EQ(openDescriptors(), descriptorsBefore) << "closing the document left descriptors open";
 
-  // The same folder once more through the command-line tool.
-  for (std::size_t i = 0; i < paths.size(); ++i) intended[i] = reltest::shiftedBytes(intended[i], {0, 0, 1, 0, 0, 0});
+  // The same folder once more through the command-line tool, for its memory
+  // figures (what a whole run leaves in each file is the kill test's first run).
   int status = 0;
   rusage usage{};
   ::wait4(reltest::startShiftByOneDay(folder.path()), &status, 0, &usage);
   EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
-  expectIntended();
   reltest::reportFigure("load: command-line peak resident MB", static_cast<double>(usage.ru_maxrss) / 1024.0);
   reltest::reportFigure("load: command-line peak resident KB per file", static_cast<double>(usage.ru_maxrss) / count);
 }

@@ -96,15 +96,6 @@ class JpegBuilder {
     return segment(0xE1, p);
   }
 
-  // An XMP APP1 packet.
-  JpegBuilder& xmp(std::string_view packet = "<x:xmpmeta/>") {
-    Bytes p;
-    for (const char c : std::string_view("http://ns.adobe.com/xap/1.0/")) p.push_back(static_cast<std::uint8_t>(c));
-    p.push_back(0);
-    p.insert(p.end(), packet.begin(), packet.end());
-    return segment(0xE1, p);
-  }
-
   // Raw bytes after the segments so far.
   JpegBuilder& raw(const Bytes& bytes) {
     segments_.insert(segments_.end(), bytes.begin(), bytes.end());

@@ -203,9 +203,8 @@ class InfoWindowTest : public QObject {
   void aClosingWindowEmptiesTheInspector() {
     Shell s;
     auto single = s.open("a.jpg", {kA, kA, kA});
-    std::vector<std::unique_ptr<LumFileItemDoc>> items;
-    for (const char* name : {"m1.jpg", "m2.jpg"}) items.push_back(doctest_support::openItem(s.photo(name)));
-    auto multi = std::make_unique<MultiFileWindow>(std::make_unique<LumMultiFileDoc>(std::move(items)), s.context);
+    auto multi = std::make_unique<MultiFileWindow>(doctest_support::openDocument({s.photo("m1.jpg"), s.photo("m2.jpg")}),
+                                                   s.context);
     QObject::connect(multi.get(), &DocumentWindow::windowClosing, &s.tools, &ToolWindows::documentWindowClosing);
     multi->show();
     InfoWindow& info = s.inspector();

@@ -42,10 +42,8 @@ class MultiFileWindowTest : public QObject {
   std::unique_ptr<QAbstractItemModelTester> tester_;
 
   void open(const std::vector<std::pair<std::string, PhotoDates>>& photos) {
-    std::vector<std::unique_ptr<LumFileItemDoc>> items;
-    for (const auto& [name, dates] : photos) items.push_back(openItem(f_->photo(name, dates)));
     tester_.reset();
-    window_ = std::make_unique<MultiFileWindow>(std::make_unique<LumMultiFileDoc>(std::move(items)), f_->context);
+    window_ = std::make_unique<MultiFileWindow>(openPhotos(f_->folder, photos), f_->context);
     f_->undoGroup.addStack(&window_->undoStack());
     f_->undoGroup.setActiveStack(&window_->undoStack());
     tester_ = std::make_unique<QAbstractItemModelTester>(&window_->model(),

@@ -135,10 +135,9 @@ class ImageWindowTest : public QObject {
   }
 
   void followsMultiFileSelectionAndLetsGoOnClose() {
-    std::vector<std::unique_ptr<LumFileItemDoc>> items;
-    items.push_back(item("a.jpg", photoWithModel("Cam A")));
-    items.push_back(item("b.jpg", photoWithModel(std::nullopt)));
-    MultiFileWindow window(std::make_unique<LumMultiFileDoc>(std::move(items)), f_->context);
+    writeBytes(f_->folder / "a.jpg", photoWithModel("Cam A"));
+    writeBytes(f_->folder / "b.jpg", photoWithModel(std::nullopt));
+    MultiFileWindow window(openDocument({f_->folder / "a.jpg", f_->folder / "b.jpg"}), f_->context);
     ToolWindows tools(f_->context, [&window]() -> DocumentWindow* { return &window; });
     f_->context.tools = &tools;
     window.show();
