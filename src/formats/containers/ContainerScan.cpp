@@ -48,6 +48,8 @@ ContainerScan scanIsoBmff(std::uint64_t fileSize, const RangeReader& read) {
     scan.refusal = "videos are not edited yet";
   else if (scan.blocks.empty() && found.problem)
     scan.refusal = *found.problem;
+  else if (scan.name.empty())
+    scan.refusal = "an ISO base media file of a kind Lumidate does not read";
   return scan;
 }
 
