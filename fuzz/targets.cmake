@@ -1,5 +1,5 @@
 # One line per fuzz target: lumidate_fuzz_target(<file name in targets/> DEPS <libraries>)
-# whole-files: image_file tiff_block
+# whole-files: image_file tiff_block container_scan
 lumidate_fuzz_target(date_text DEPS lumidate_datetime)
 lumidate_fuzz_target(offset_text DEPS lumidate_datetime)
 lumidate_fuzz_target(normalized_date DEPS lumidate_documents)
