@@ -25,7 +25,8 @@ bool startsLikeTiff(orb::ByteView file, std::uint64_t offset) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const orb::ByteView file(data, size);
-  const lum::RangeReader read = [&file](std::uint64_t offset, std::uint64_t length) -> std::optional<std::vector<std::uint8_t>> {
+  const lum::RangeReader read = [&file](std::uint64_t offset,
+                                        std::uint64_t length) -> std::optional<std::vector<std::uint8_t>> {
     if (offset > file.size()) return std::nullopt;
     const auto bytes = file.bytes(offset, std::min<std::uint64_t>(length, file.size() - offset));
     if (!bytes) return std::nullopt;

@@ -25,7 +25,8 @@ using lum::containers::pngCrcsAreRight;
 lum::RangeReader readerOver(const Bytes& file) {
   return [&file](std::uint64_t offset, std::uint64_t length) -> std::optional<Bytes> {
     if (offset > file.size()) return std::nullopt;
-    const auto end = file.begin() + static_cast<std::ptrdiff_t>(offset + std::min<std::uint64_t>(length, file.size() - offset));
+    const auto end =
+        file.begin() + static_cast<std::ptrdiff_t>(offset + std::min<std::uint64_t>(length, file.size() - offset));
     return Bytes(file.begin() + static_cast<std::ptrdiff_t>(offset), end);
   };
 }
@@ -51,14 +52,19 @@ std::optional<FoundDate> dateIn(const Bytes& file, const std::vector<lum::TiffBl
     const std::uint64_t location = 0;
     const auto tiff = OrbTiff::exifWithPtr(orb::ByteView(bytes.data(), bytes.size()), &location, bytes.size());
     const bool exifFirst = block.where.rfind("CMT2", 0) == 0;
-    const OrbIFDEntry* entry = tiff ? tiff->entryWithIFDTag(tag, exifFirst && ifd == kExifIFDID ? kTIFFIFDID : ifd) : nullptr;
+    const OrbIFDEntry* entry =
+        tiff ? tiff->entryWithIFDTag(tag, exifFirst && ifd == kExifIFDID ? kTIFFIFDID : ifd) : nullptr;
     if (entry && entry->byteCount() > 4) return FoundDate{entry->dataObject().text(), block.offset + entry->data()};
   }
   return std::nullopt;
 }
 
 void checkFile(const std::filesystem::path& path, const nlohmann::json& record) {
-  static constexpr struct { const char* name; std::uint16_t tag; std::uint32_t ifd; } kDates[] = {
+  static constexpr struct {
+    const char* name;
+    std::uint16_t tag;
+    std::uint32_t ifd;
+  } kDates[] = {
       {"DateTimeOriginal", 0x9003, kExifIFDID}, {"CreateDate", 0x9004, kExifIFDID}, {"ModifyDate", 0x0132, kTIFFIFDID}};
   const std::string name = path.filename().string(), format = record.at("format");
   SCOPED_TRACE(name);
@@ -66,7 +72,8 @@ void checkFile(const std::filesystem::path& path, const nlohmann::json& record) 
   const lum::ContainerScan scan = scanBytes(file);
   const bool video = format.find("(video)") != std::string::npos;
   EXPECT_EQ(scan.name, format.substr(0, format.find(" (")));
-  EXPECT_EQ(scan.refusal.has_value(), video || name.find("header-only") != std::string::npos) << scan.refusal.value_or("");
+  EXPECT_EQ(scan.refusal.has_value(), video || name.find("header-only") != std::string::npos)
+      << scan.refusal.value_or("");
   if (video) {
     EXPECT_EQ(scan.refusal.value_or(""), "videos are not edited yet");
   }
@@ -157,10 +164,18 @@ Bytes jpeg(const Bytes& app1Payload) {
 }
 
 TEST(ContainerScan, FindsTheBlockWhereEachFormatKeepsIt) {
-  const struct { const char* what; Bytes file; const char* name; std::uint64_t offset; } kCases[] = {
-      {"PNG eXIf", png({pngChunk("IHDR", Bytes(13)), pngChunk("eXIf", kTiff), pngChunk("IEND", {})}), "PNG", 8 + 25 + 8},
-      {"PNG eXIf after IDAT, with Exif prefix", png({pngChunk("IDAT", Bytes(3)), pngChunk("eXIf", kExifTiff)}), "PNG", 8 + 15 + 8 + 6},
-      {"WebP after an odd chunk", webp({{"VP8X", Bytes(10)}, {"ICCP", Bytes(3)}, {"EXIF", kTiff}}), "WebP", 12 + 18 + 12 + 8},
+  const struct {
+    const char* what;
+    Bytes file;
+    const char* name;
+    std::uint64_t offset;
+  } kCases[] = {
+      {"PNG eXIf", png({pngChunk("IHDR", Bytes(13)), pngChunk("eXIf", kTiff), pngChunk("IEND", {})}), "PNG",
+       8 + 25 + 8},
+      {"PNG eXIf after IDAT, with Exif prefix", png({pngChunk("IDAT", Bytes(3)), pngChunk("eXIf", kExifTiff)}), "PNG",
+       8 + 15 + 8 + 6},
+      {"WebP after an odd chunk", webp({{"VP8X", Bytes(10)}, {"ICCP", Bytes(3)}, {"EXIF", kTiff}}), "WebP",
+       12 + 18 + 12 + 8},
       {"WebP with Exif prefix", webp({{"VP8X", Bytes(10)}, {"EXIF", kExifTiff}}), "WebP", 12 + 18 + 8 + 6},
       {"JPEG APP1 after APP0", jpeg(kExifTiff), "JPEG", 12 + 6},
   };
@@ -182,7 +197,10 @@ TEST(ContainerScan, HostileInputsGiveNoBlock) {
     return bytes;
   };
   const Bytes raf = join(text("FUJIFILMCCD-RAW "), Bytes(84, 0));
-  const struct { const char* what; Bytes file; } kCases[] = {
+  const struct {
+    const char* what;
+    Bytes file;
+  } kCases[] = {
       {"empty", {}},
       {"one byte", {0x89}},
       {"PNG cut inside the eXIf chunk", cut(good, 20)},

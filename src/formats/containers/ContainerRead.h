@@ -26,7 +26,9 @@ inline std::vector<std::uint8_t> readClipped(const RangeReader& read, std::uint6
   return std::move(*bytes);
 }
 
-inline orb::ByteView viewOf(const std::vector<std::uint8_t>& bytes) { return orb::ByteView(bytes.data(), bytes.size()); }
+inline orb::ByteView viewOf(const std::vector<std::uint8_t>& bytes) {
+  return orb::ByteView(bytes.data(), bytes.size());
+}
 
 // True when the bytes start with a TIFF header ("II*\0" or "MM\0*").
 inline bool startsWithTiffHeader(orb::ByteView bytes) {

@@ -63,8 +63,16 @@ FirstDirectory readFirstDirectory(std::uint64_t fileSize, const RangeReader& rea
 // The RAW format a camera maker's TIFF-based files are known by.
 std::string rawNameForMake(std::string_view make) {
   static constexpr std::array<std::pair<std::string_view, std::string_view>, 10> kMakers{{
-      {"NIKON", "NEF"}, {"SONY", "ARW"}, {"PENTAX", "PEF"}, {"SAMSUNG", "SRW"}, {"KODAK", "DCR"},
-      {"EPSON", "ERF"}, {"Hasselblad", "3FR"}, {"Mamiya", "MEF"}, {"Leaf", "MOS"}, {"Phase One", "IIQ"},
+      {"NIKON", "NEF"},
+      {"SONY", "ARW"},
+      {"PENTAX", "PEF"},
+      {"SAMSUNG", "SRW"},
+      {"KODAK", "DCR"},
+      {"EPSON", "ERF"},
+      {"Hasselblad", "3FR"},
+      {"Mamiya", "MEF"},
+      {"Leaf", "MOS"},
+      {"Phase One", "IIQ"},
   }};
   for (const auto& [prefix, name] : kMakers)
     if (make.substr(0, prefix.size()) == prefix) return std::string(name);
@@ -102,11 +110,13 @@ std::optional<std::string> tiffFamilyHeader(orb::ByteView head) {
 ContainerScan scanTiffFamily(std::uint64_t fileSize, const RangeReader& read, const std::string& headerName) {
   const auto head = readClipped(read, fileSize, 0, 16);
   const orb::ByteView view = viewOf(head);
-  const orb::ByteOrder order = view.u8(0) == std::optional<std::uint8_t>('I') ? orb::ByteOrder::Little : orb::ByteOrder::Big;
+  const orb::ByteOrder order =
+      view.u8(0) == std::optional<std::uint8_t>('I') ? orb::ByteOrder::Little : orb::ByteOrder::Big;
   const bool canonRaw = view.u16(8) == std::optional<std::uint16_t>(0x4352);  // "CR"
   const auto first = view.u32(4, order);
   ContainerScan scan;
-  const FirstDirectory dir = first && *first >= 8 ? readFirstDirectory(fileSize, read, order, *first) : FirstDirectory{};
+  const FirstDirectory dir =
+      first && *first >= 8 ? readFirstDirectory(fileSize, read, order, *first) : FirstDirectory{};
   scan.name = nameFor(headerName, canonRaw, dir);
   if (!dir.complete) {
     scan.refusal = "the file holds only " + std::to_string(fileSize) +
