@@ -22,21 +22,20 @@ namespace {
 using Bytes = std::vector<std::uint8_t>;
 using lum::containers::pngCrcsAreRight;
 
+Bytes slice(const Bytes& file, std::uint64_t offset, std::uint64_t length) {
+  const auto at = [&file](std::uint64_t i) { return file.begin() + static_cast<std::ptrdiff_t>(i); };
+  return Bytes(at(offset), at(offset + std::min<std::uint64_t>(length, file.size() - offset)));
+}
+
 lum::RangeReader readerOver(const Bytes& file) {
   return [&file](std::uint64_t offset, std::uint64_t length) -> std::optional<Bytes> {
-    if (offset > file.size()) return std::nullopt;
-    const auto end =
-        file.begin() + static_cast<std::ptrdiff_t>(offset + std::min<std::uint64_t>(length, file.size() - offset));
-    return Bytes(file.begin() + static_cast<std::ptrdiff_t>(offset), end);
+    return offset > file.size() ? std::nullopt : std::optional(slice(file, offset, length));
   };
 }
 
 lum::ContainerScan scanBytes(const Bytes& file) { return lum::scanContainer(file.size(), readerOver(file)); }
 
-struct FoundDate {
-  std::string text;
-  std::uint64_t offset = 0;
-};
+using FoundDate = std::pair<std::string, std::uint64_t>;  // text, file offset
 
 // The first block that has the entry gives its text and file offset. ORF and
 // RW2 headers carry their own magic; the parser is given the standard one.
@@ -45,26 +44,20 @@ std::optional<FoundDate> dateIn(const Bytes& file, const std::vector<lum::TiffBl
                                 std::uint32_t ifd) {
   for (const lum::TiffBlock& block : blocks) {
     if (block.length < 8 || block.offset + block.length > file.size()) continue;
-    Bytes bytes(file.begin() + static_cast<std::ptrdiff_t>(block.offset),
-                file.begin() + static_cast<std::ptrdiff_t>(block.offset + block.length));
+    Bytes bytes = slice(file, block.offset, block.length);
     bytes[2] = bytes[0] == 'I' ? 0x2A : 0x00;
     bytes[3] = bytes[0] == 'I' ? 0x00 : 0x2A;
     const std::uint64_t location = 0;
     const auto tiff = OrbTiff::exifWithPtr(orb::ByteView(bytes.data(), bytes.size()), &location, bytes.size());
     const bool exifFirst = block.where.rfind("CMT2", 0) == 0;
-    const OrbIFDEntry* entry =
-        tiff ? tiff->entryWithIFDTag(tag, exifFirst && ifd == kExifIFDID ? kTIFFIFDID : ifd) : nullptr;
+    const auto* entry = tiff ? tiff->entryWithIFDTag(tag, exifFirst && ifd == kExifIFDID ? kTIFFIFDID : ifd) : nullptr;
     if (entry && entry->byteCount() > 4) return FoundDate{entry->dataObject().text(), block.offset + entry->data()};
   }
   return std::nullopt;
 }
 
 void checkFile(const std::filesystem::path& path, const nlohmann::json& record) {
-  static constexpr struct {
-    const char* name;
-    std::uint16_t tag;
-    std::uint32_t ifd;
-  } kDates[] = {
+  static constexpr struct { const char* name; std::uint16_t tag; std::uint32_t ifd; } kDates[] = {
       {"DateTimeOriginal", 0x9003, kExifIFDID}, {"CreateDate", 0x9004, kExifIFDID}, {"ModifyDate", 0x0132, kTIFFIFDID}};
   const std::string name = path.filename().string(), format = record.at("format");
   SCOPED_TRACE(name);
@@ -81,12 +74,12 @@ void checkFile(const std::filesystem::path& path, const nlohmann::json& record) 
     const auto& offsets = record.at("date_offsets").at(d.name);
     const auto found = dateIn(file, scan.blocks, d.tag, d.ifd);
     if (offsets.is_null()) {
-      EXPECT_FALSE(found) << d.name << " found at " << found->offset;
+      EXPECT_FALSE(found) << d.name << " found at " << found->second;
     } else if (!found) {
       ADD_FAILURE() << d.name << " not found";
     } else {
-      EXPECT_EQ(found->text, record.at("exiftool").at(d.name)) << d.name;
-      EXPECT_EQ(found->offset, offsets.at(0).get<std::uint64_t>()) << d.name;
+      const FoundDate want(record.at("exiftool").at(d.name).get<std::string>(), offsets.at(0).get<std::uint64_t>());
+      EXPECT_EQ(*found, want) << d.name;
     }
   }
   if (format.rfind("PNG", 0) == 0) {
@@ -124,10 +117,7 @@ Bytes join(Bytes out, const Bytes& more) {
   return out;
 }
 Bytes text(const char* s) { return Bytes(s, s + std::strlen(s)); }
-Bytes cut(Bytes bytes, std::size_t size) {
-  bytes.resize(std::min(size, bytes.size()));
-  return bytes;
-}
+Bytes cut(const Bytes& bytes, std::size_t size) { return slice(bytes, 0, size); }
 
 const Bytes kTiff{'M', 'M', 0, 42, 0, 0, 0, 8, 0, 0, 0, 0, 0, 0};  // header and an empty IFD
 const Bytes kExifTiff = join({'E', 'x', 'i', 'f', 0, 0}, kTiff);
@@ -164,12 +154,7 @@ Bytes jpeg(const Bytes& app1Payload) {
 }
 
 TEST(ContainerScan, FindsTheBlockWhereEachFormatKeepsIt) {
-  const struct {
-    const char* what;
-    Bytes file;
-    const char* name;
-    std::uint64_t offset;
-  } kCases[] = {
+  const struct { const char* what; Bytes file; const char* name; std::uint64_t offset; } kCases[] = {
       {"PNG eXIf", png({pngChunk("IHDR", Bytes(13)), pngChunk("eXIf", kTiff), pngChunk("IEND", {})}), "PNG",
        8 + 25 + 8},
       {"PNG eXIf after IDAT, with Exif prefix", png({pngChunk("IDAT", Bytes(3)), pngChunk("eXIf", kExifTiff)}), "PNG",
@@ -192,15 +177,9 @@ TEST(ContainerScan, FindsTheBlockWhereEachFormatKeepsIt) {
 
 TEST(ContainerScan, HostileInputsGiveNoBlock) {
   const Bytes good = png({pngChunk("eXIf", kTiff), pngChunk("IEND", {})});
-  auto patched = [](Bytes bytes, std::size_t at, std::uint8_t value) {
-    bytes[at] = value;
-    return bytes;
-  };
+  const auto patched = [](Bytes bytes, std::size_t at, std::uint8_t value) { return (bytes[at] = value, bytes); };
   const Bytes raf = join(text("FUJIFILMCCD-RAW "), Bytes(84, 0));
-  const struct {
-    const char* what;
-    Bytes file;
-  } kCases[] = {
+  const struct { const char* what; Bytes file; } kCases[] = {
       {"empty", {}},
       {"one byte", {0x89}},
       {"PNG cut inside the eXIf chunk", cut(good, 20)},
