@@ -20,7 +20,7 @@ struct Result {
 };
 
 // True when the first bytes are an ISO base media file ("ftyp" box first).
-bool looksLikeIsoBmff(ByteView head);
+bool looksLikeIsoBmff(orb::ByteView head);
 
 // Walks the file's boxes through read; fileSize bounds every box.
 Result locateExif(std::uint64_t fileSize, const RangeReader& read);
