@@ -76,6 +76,8 @@ TEST(IsoBmffExif, NamesFromBrands) {
     EXPECT_EQ(r.isVideo, c.video) << c.brands;
     EXPECT_TRUE(r.blocks.empty() && r.problem) << c.brands;
   }
+  for (const auto& [head, isIso] : {std::pair{kFtyp, true}, {kTiff, false}, {Bytes(kFtyp.begin(), kFtyp.begin() + 7), false}})
+    EXPECT_EQ(looksLikeIsoBmff(orb::ByteView(head)), isIso);
 }
 
 TEST(IsoBmffExif, BuiltFiles) {
