@@ -71,7 +71,7 @@ TEST(IsoBmffExif, NamesFromBrands) {
       {"avif\0\0\0\0mif1", "AVIF", false}, {"crx \0\0\0\0isom", "CR3", false}, {"qt  \0\0\0\0qt  ", "MOV", true},
       {"isom\0\0\0\0mp41", "MP4", true},   {"XAVC\0\0\0\0iso6", "MP4", true},  {"abcd\0\0\0\0avif", "AVIF", false}};
   for (const auto& c : cases) {
-    const Result r = locate(box("ftyp", Bytes(c.brands, c.brands + 16)));
+    const Result r = locate(box("ftyp", Bytes(c.brands, c.brands + 12)));
     EXPECT_EQ(r.name, c.name) << c.brands;
     EXPECT_EQ(r.isVideo, c.video) << c.brands;
     EXPECT_TRUE(r.blocks.empty() && r.problem) << c.brands;
