@@ -31,9 +31,7 @@ Bytes cat(std::initializer_list<Bytes> parts) {
   return out;
 }
 Bytes box(std::string_view type, const Bytes& payload) { return cat({num(payload.size() + 8, 4), text(type), payload}); }
-Bytes full(std::string_view type, int version, const Bytes& payload) { return box(type, cat({num(version, 4) , payload})); }
-// Version goes in the first byte of the version-and-flags field.
-Bytes fullV(std::string_view type, int version, const Bytes& payload) { return full(type, version << 24, payload); }
+Bytes fullV(std::string_view type, int version, const Bytes& payload) { return box(type, cat({num(version, 1), num(0, 3), payload})); }
 
 Result locate(const Bytes& bytes) { return locateExif(bytes.size(), readerOver(orb::ByteView(bytes))); }
 
@@ -97,6 +95,7 @@ TEST(IsoBmffExif, BuiltFiles) {
       {"meta past the file", {}, [](Bytes& b) { put(b, find(b, "meta") - 4, b.size(), 4); }, false},
       {"64-bit size below header", {}, [](Bytes& b) { b.insert(b.end(), {0, 0, 0, 1, 'f', 'r', 'e', 'e', 0, 0, 0, 0, 0, 0, 0, 8}); }, true},
       {"ftyp size 0 hides meta", {}, [](Bytes& b) { put(b, 0, 0, 4); }, false},
+      {"iinf cut before its entries", {}, [](Bytes& b) { put(b, find(b, "iinf") - 4, 12, 4); }, false},
       {"infe past iinf", {}, [](Bytes& b) { put(b, find(b, "infe") - 4, 200, 4); }, false},
       {"iloc version 3", {}, [](Bytes& b) { b[find(b, "iloc") + 4] = 3; }, false},
       {"iloc field size 3", {}, [](Bytes& b) { b[find(b, "iloc") + 8] = 0x33; }, false},

@@ -2,7 +2,9 @@
 // Reading the boxes of an ISO base media file through a RangeReader: each
 // box's header (32-bit, 64-bit and to-the-end sizes, "uuid" user types) and
 // the list of boxes inside a range. Every size is checked against the
-// enclosing range before it is believed.
+// enclosing range before it is believed. A list walk only moves forward
+// (every box is at least its header long) and the locators descend a fixed
+// number of levels, so no box is read twice and no walk can loop.
 
 #include <array>
 #include <cstdint>
