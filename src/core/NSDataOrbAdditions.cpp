@@ -70,10 +70,11 @@ OrbRange rengeUntilNullFromLocation(std::span<const std::uint8_t> bytes, std::ui
   return {location, length};
 }
 
-std::uint32_t CRC_32(std::span<const std::uint8_t> bytes) {
-  if (bytes.empty()) return 0;
+std::uint32_t CRC_32(std::span<const std::uint8_t> bytes) { return CRC_32Update(0, bytes); }
+
+std::uint32_t CRC_32Update(std::uint32_t crc, std::span<const std::uint8_t> bytes) {
   const auto& table = crcTable();
-  std::uint32_t crc = 0xFFFFFFFFu;
+  crc ^= 0xFFFFFFFFu;
   for (std::uint8_t b : bytes) crc = table[(crc ^ b) & 0xFF] ^ (crc >> 8);
   return crc ^ 0xFFFFFFFFu;
 }

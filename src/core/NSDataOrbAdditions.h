@@ -46,6 +46,9 @@ OrbRange rengeUntilNullFromLocation(std::span<const std::uint8_t> data, std::uin
 // CRC-32 (reflected polynomial 0xEDB88320, start 0xFFFFFFFF, inverted at the
 // end); 0 for an empty buffer.
 std::uint32_t CRC_32(std::span<const std::uint8_t> data);
+// The same, continued over more bytes: the CRC-32 of the earlier bytes
+// (0 before any) followed by data, so a long range can be fed in pieces.
+std::uint32_t CRC_32Update(std::uint32_t crc, std::span<const std::uint8_t> data);
 
 }  // namespace NSDataOrbAdditions
 

@@ -12,6 +12,7 @@
 #include <nlohmann/json.hpp>
 
 #include "core/IFDItemID.h"
+#include "core/NSDataOrbAdditions.h"
 #include "core/OrbTiff.h"
 #include "formats/containers/ContainerScan.h"
 #include "formats/containers/PngChunks.h"
@@ -126,7 +127,7 @@ Bytes pngChunk(const char* type, const Bytes& data) {
   Bytes chunk;
   put32(chunk, data.size());
   chunk = join(join(chunk, text(type)), data);
-  put32(chunk, lum::containers::pngCrcUpdate(0, std::span(chunk).subspan(4)));
+  put32(chunk, NSDataOrbAdditions::CRC_32(std::span(chunk).subspan(4)));
   return chunk;
 }
 Bytes png(const std::vector<Bytes>& chunks) {

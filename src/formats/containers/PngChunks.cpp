@@ -1,8 +1,8 @@
 #include "formats/containers/PngChunks.h"
 
-#include <array>
 #include <functional>
 
+#include "core/NSDataOrbAdditions.h"
 #include "formats/containers/ContainerRead.h"
 
 namespace lum::containers {
@@ -38,19 +38,6 @@ bool walkChunks(std::uint64_t fileSize, const RangeReader& read, const std::func
   return false;
 }
 
-const std::array<std::uint32_t, 256>& crcTable() {
-  static const std::array<std::uint32_t, 256> table = [] {
-    std::array<std::uint32_t, 256> t{};
-    for (std::uint32_t n = 0; n < 256; ++n) {
-      std::uint32_t c = n;
-      for (int k = 0; k < 8; ++k) c = (c & 1) ? 0xEDB88320u ^ (c >> 1) : c >> 1;
-      t[n] = c;
-    }
-    return t;
-  }();
-  return table;
-}
-
 std::optional<TiffBlock> exifChunkBlock(const RangeReader& read, std::uint64_t fileSize, const Chunk& chunk) {
   const auto head = readClipped(read, fileSize, chunk.dataOffset(), 10);
   const orb::ByteView view = viewOf(head);
@@ -80,13 +67,6 @@ ContainerScan scanPng(std::uint64_t fileSize, const RangeReader& read) {
   return scan;
 }
 
-std::uint32_t pngCrcUpdate(std::uint32_t crc, std::span<const std::uint8_t> bytes) {
-  const auto& table = crcTable();
-  std::uint32_t c = crc ^ 0xFFFFFFFFu;
-  for (const std::uint8_t b : bytes) c = table[(c ^ b) & 0xFFu] ^ (c >> 8);
-  return c ^ 0xFFFFFFFFu;
-}
-
 std::optional<std::uint32_t> pngChunkCrc(std::uint64_t fileSize, const RangeReader& read, std::uint64_t chunkOffset) {
   const auto lengthBytes = readClipped(read, fileSize, chunkOffset, 4);
   const auto length = viewOf(lengthBytes).u32(0);
@@ -96,7 +76,7 @@ std::optional<std::uint32_t> pngChunkCrc(std::uint64_t fileSize, const RangeRead
   for (std::uint64_t pos = chunkOffset + 4; pos < end;) {
     const auto piece = readClipped(read, fileSize, pos, end - pos);
     if (piece.empty()) return std::nullopt;
-    crc = pngCrcUpdate(crc, piece);
+    crc = NSDataOrbAdditions::CRC_32Update(crc, piece);
     pos += piece.size();
   }
   return crc;

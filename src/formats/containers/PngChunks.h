@@ -19,9 +19,6 @@ bool looksLikePng(orb::ByteView head);
 // text, not a TIFF block, and gives none.
 ContainerScan scanPng(std::uint64_t fileSize, const RangeReader& read);
 
-// CRC-32 as PNG computes it, continued over more bytes: start from 0.
-std::uint32_t pngCrcUpdate(std::uint32_t crc, std::span<const std::uint8_t> bytes);
-
 // The CRC the chunk at chunkOffset (its length field) should carry, over its
 // type and data; nullopt when the chunk does not fit in the file.
 std::optional<std::uint32_t> pngChunkCrc(std::uint64_t fileSize, const RangeReader& read, std::uint64_t chunkOffset);
