@@ -8,11 +8,9 @@ starting with "#" is a comment). A message with that context and source gets
 the translation and loses its "unfinished" mark. Lines that match no message
 are reported, so a misspelt source does not pass unnoticed.
 """
-import re
 import sys
-from xml.sax.saxutils import escape, unescape
 
-UNQUOTE = {"&quot;": '"', "&apos;": "'"}
+import ts_text
 
 
 def read_list(path):
@@ -30,27 +28,14 @@ def read_list(path):
 def main(ts_path, list_path):
     texts = read_list(list_path)
     used = set()
-    with open(ts_path, encoding="utf-8") as f:
-        text = f.read()
-    context = None
 
-    def fill(match):
-        nonlocal context
-        if match.group("name") is not None:
-            context = unescape(match.group("name"), UNQUOTE)
-            return match.group(0)
-        key = (context, unescape(match.group("source"), UNQUOTE))
-        if key not in texts:
-            return match.group(0)
-        used.add(key)
-        return match.group("head") + "<translation>" + escape(texts[key], {'"': "&quot;"}) + "</translation>"
+    def translate(context, source):
+        if (context, source) not in texts:
+            return None
+        used.add((context, source))
+        return texts[(context, source)]
 
-    pattern = re.compile(
-        r"<name>(?P<name>[^<]*)</name>"
-        r"|(?P<head><source>(?P<source>[^<]*)</source>\s*)<translation[^>]*>[^<]*</translation>")
-    text = pattern.sub(fill, text)
-    with open(ts_path, "w", encoding="utf-8") as f:
-        f.write(text)
+    ts_text.fill(ts_path, translate, unfinished_only=False)
     for context, source in sorted(set(texts) - used):
         print(f"no message {context!r} {source!r}", file=sys.stderr)
     return 1 if set(texts) - used else 0

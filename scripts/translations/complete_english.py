@@ -6,11 +6,9 @@ the tab-separated file (context, key, English format), which
 lumidate-translation-keys writes from the documents layer's format table.
 The .ts file is edited as text, so lupdate's layout stays as it is.
 """
-import re
 import sys
-from xml.sax.saxutils import escape, unescape
 
-ENTITIES = {'"': "&quot;", "'": "&apos;"}
+import ts_text
 
 
 def main(ts_path, english_path):
@@ -19,25 +17,7 @@ def main(ts_path, english_path):
         for line in f:
             context, key, english = line.rstrip("\n").split("\t")
             formats[(context, key)] = english
-    with open(ts_path, encoding="utf-8") as f:
-        text = f.read()
-
-    context = None
-
-    def fill(match):
-        nonlocal context
-        if match.group("name") is not None:
-            context = unescape(match.group("name"), {v: k for k, v in ENTITIES.items()})
-            return match.group(0)
-        source = unescape(match.group("source"), {v: k for k, v in ENTITIES.items()})
-        english = formats.get((context, source), source)
-        return match.group("head") + "<translation>" + escape(english, {'"': "&quot;"}) + "</translation>"
-
-    pattern = re.compile(
-        r"<name>(?P<name>[^<]*)</name>"
-        r"|(?P<head><source>(?P<source>[^<]*)</source>\s*)<translation type=\"unfinished\">[^<]*</translation>")
-    with open(ts_path, "w", encoding="utf-8") as f:
-        f.write(pattern.sub(fill, text))
+    ts_text.fill(ts_path, lambda context, source: formats.get((context, source), source), unfinished_only=True)
 
 
 if __name__ == "__main__":

@@ -11,9 +11,9 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
+#include <QTest>
+
 #include <fstream>
-#include <thread>
 
 #include "DatedPhotos.h"
 #include "documents/PhotoFiles.h"
@@ -31,11 +31,8 @@ double openDescriptors() {
 // a worker thread that has just handed its result over still holds its
 // event descriptor until it has ended.
 double settledDescriptors(double limit) {
-  const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(5);
-  double open = openDescriptors();
-  for (; open > limit && std::chrono::steady_clock::now() < deadline; open = openDescriptors())
-    std::this_thread::sleep_for(std::chrono::milliseconds(10));
-  return open;
+  (void)QTest::qWaitFor([limit] { return openDescriptors() <= limit; }, 5000);
+  return openDescriptors();
 }
 
 // Resident memory now, in KB.
