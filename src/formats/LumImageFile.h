@@ -129,6 +129,13 @@ class LumImageFile {
   std::uint64_t tiffHeaderLocation() const { return tiffHeaderLocation_; }
   void setTiffHeaderLocation(std::uint64_t location) { tiffHeaderLocation_ = location; }
 
+  // The photo format as its bytes say it, as a user names it: "JPEG",
+  // "TIFF", "DNG", "CR2", "NEF", ..., "RAF", "HEIC", "AVIF", "CR3", "PNG",
+  // "WebP"; and where in the file the Exif came from ("APP1 segment",
+  // "eXIf chunk", "Exif item", "CMT1 box", ...), empty when it has none.
+  const std::string& containerName() const { return containerName_; }
+  const std::string& exifPlace() const { return exifPlace_; }
+
   const std::optional<LumRange>& JFIFSegmentRange() const { return jfifSegmentRange_; }
   const std::optional<LumRange>& exifSegmentRange() const { return exifSegmentRange_; }
 
@@ -242,6 +249,8 @@ class LumImageFile {
   std::optional<std::filesystem::path> pathToRead() const;
 
   std::optional<lum::FileStamp> stamp_;
+  std::string containerName_;
+  std::string exifPlace_;
   std::optional<LumRange> jfifSegmentRange_;
   std::optional<LumRange> exifSegmentRange_;
   std::uint64_t tiffHeaderLocation_ = 0;
