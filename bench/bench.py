@@ -20,6 +20,8 @@ def parse_args(argv):
     p = argparse.ArgumentParser(prog="bench/run")
     p.add_argument("--small", type=int, default=10000, help="files in the 640x480 set")
     p.add_argument("--large", type=int, default=500, help="files in the 12 MP set")
+    p.add_argument("--raw", type=int, default=40, help="files in the RAW (DNG, 22 MB) set")
+    p.add_argument("--heic", type=int, default=200, help="files in the HEIC (12 MP) set")
     p.add_argument("--runs", type=int, default=5, help="timed runs of each program")
     p.add_argument("--scratch", default="/tmp/lumidate-bench", help="folder for sets and copies")
     p.add_argument("--cli", required=True, help="path of lumidate-cli")
@@ -31,8 +33,8 @@ def parse_args(argv):
     p.add_argument("--note", default="", help="a line about the conditions of this run")
     p.add_argument("--report-only", action="store_true",
                    help="write the table again from the last run's results.json (e.g. after editing notes.md)")
-    p.add_argument("--shift-sets", default="small,large",
-                   help="comma-separated sets to time shifting on (default: small,large)")
+    p.add_argument("--shift-sets", default="small,large,raw,heic",
+                   help="comma-separated sets to time shifting on (default: all four)")
     return p.parse_args(argv)
 
 
@@ -185,6 +187,29 @@ def run_window_bench(window, cli, scratch, runs):
     return data, ""
 
 
+def measure_one_set(args, name, stamp, results, log_dir):
+    """Times reading, then shifting, on one set. The JPEG sets keep their
+    fresh copy per run; the sets of large files restore their dates in place
+    for the programs that change nothing else."""
+    folder = os.path.join(args.scratch, "sets", name)
+    first_dto = gensets.dates_for(1)["DateTimeOriginal"]
+    jpeg = stamp.get("extension", "jpg") == "jpg"
+    ext = gensets.EXTENSION[name]
+    print("== reading dates, %s set" % name, flush=True)
+    results["read"][name] = measure.measure_set(
+        name, folder, first_dto,
+        measure.read_programs(args.cli, args.floor, gensets.floor_extra_read(stamp), jpeg),
+        args.runs, None, log_dir, shifting=False, ext=ext)
+    if name not in args.shift_sets.split(","):
+        return
+    print("== shifting dates, %s set" % name, flush=True)
+    restore = None if jpeg else (lambda cwd: gensets.restore_fields(cwd, stamp))
+    results["shift"][name] = measure.measure_set(
+        name, folder, first_dto,
+        measure.shift_programs(args.cli, args.floor, stamp["fields"]["DateTimeOriginal"], jpeg),
+        args.runs, os.path.join(args.scratch, "work"), log_dir, shifting=True, ext=ext, restore=restore)
+
+
 def main(argv):
     args = parse_args(argv)
     repo = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
@@ -198,35 +223,21 @@ def main(argv):
     os.makedirs(log_dir)
 
     print("== sets in %s" % args.scratch, flush=True)
-    set_lines = []
-    for name, count in (("small", args.small), ("large", args.large)):
+    set_lines, stamps = [], {}
+    counts = {"small": args.small, "large": args.large, "raw": args.raw, "heic": args.heic}
+    for name, count in counts.items():
         if count <= 0:
             continue
-        stamp = gensets.build_set(args.scratch, name, count)
+        stamps[name] = gensets.build_set(args.scratch, name, count)
         folder = os.path.join(args.scratch, "sets", name)
-        gensets.check_with_exiftool(folder, sorted({1, (count + 1) // 2, count}))
-        text = ("%d JPEGs of %dx%d, quality %d, %.1f KB each, with Make/Model, three different "
-                "dates, sub-seconds, GPS and an IFD1 thumbnail" % (
-                    count, stamp["width"], stamp["height"], stamp["quality"], stamp["size"] / 1024.0))
+        gensets.check_with_exiftool(folder, sorted({1, (count + 1) // 2, count}), gensets.EXTENSION[name])
+        text = gensets.describe(name, stamps[name])
         print("  %s: %s" % (name, text), flush=True)
         set_lines.append((name, text))
 
     results = {"read": {}, "shift": {}}
-    first_dto = gensets.dates_for(1)["DateTimeOriginal"]
-    for name, _ in set_lines:
-        folder = os.path.join(args.scratch, "sets", name)
-        with open(os.path.join(folder, "layout.json")) as f:
-            date_at = json.load(f)["fields"]["DateTimeOriginal"]
-        print("== reading dates, %s set" % name, flush=True)
-        results["read"][name] = measure.measure_set(
-            name, folder, first_dto, measure.read_programs(args.cli, args.floor), args.runs,
-            None, log_dir, shifting=False)
-        if name not in args.shift_sets.split(","):
-            continue
-        print("== shifting dates, %s set" % name, flush=True)
-        results["shift"][name] = measure.measure_set(
-            name, folder, first_dto, measure.shift_programs(args.cli, args.floor, date_at),
-            args.runs, os.path.join(args.scratch, "work"), log_dir, shifting=True)
+    for name, stamp in stamps.items():
+        measure_one_set(args, name, stamp, results, log_dir)
 
     results["model"], model_note = run_model_bench(args.model, args.cli, args.scratch, args.runs)
     results["window"], window_note = run_window_bench(args.window, args.cli, args.scratch, args.runs)

@@ -1,6 +1,9 @@
 // The physical floor for the benchmark: the least work any date tool must do.
 //
-//   bench-floor read FILE...                      pread the first 64 KiB of each file
+//   bench-floor read [--also OFFSET LENGTH] FILE...
+//                                                 pread the first 64 KiB of each file, and
+//                                                 with --also that range too (a second read:
+//                                                 where a HEIC keeps its Exif item)
 //   bench-floor write [--fsync|--syncfs] --at N FILE...
 //                                                 write 19 bytes in place at offset N
 //
@@ -14,12 +17,12 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <string_view>
+#include <vector>
 
 namespace {
 
@@ -35,14 +38,25 @@ bool fail(const char* path, const char* what) {
 
 // Reads the head of the file and folds it into `sum` so the read cannot be
 // optimised away.
-bool readHead(const char* path, unsigned& sum) {
-  static std::array<unsigned char, kReadSize> buffer;
+bool readInto(int fd, const char* path, std::vector<unsigned char>& buffer, off_t at, unsigned& sum) {
+  const ssize_t n = ::pread(fd, buffer.data(), buffer.size(), at);
+  if (n < 0) return fail(path, "pread");
+  if (n > 0) sum += buffer[static_cast<size_t>(n) - 1];
+  return true;
+}
+
+// A range of the file read after its head; empty when there is none.
+struct Extra {
+  off_t at = 0;
+  std::vector<unsigned char> buffer;
+};
+
+bool readHead(const char* path, Extra& extra, unsigned& sum) {
+  static std::vector<unsigned char> head(kReadSize);
   const int fd = ::open(path, O_RDONLY | O_CLOEXEC);
   if (fd < 0) return fail(path, "open");
-  const ssize_t n = ::pread(fd, buffer.data(), buffer.size(), 0);
-  const bool ok = n >= 0;
-  if (!ok) fail(path, "pread");
-  else if (n > 0) sum += buffer[static_cast<size_t>(n) - 1];
+  bool ok = readInto(fd, path, head, 0, sum);
+  if (ok && !extra.buffer.empty()) ok = readInto(fd, path, extra.buffer, extra.at, sum);
   ::close(fd);
   return ok;
 }
@@ -63,7 +77,7 @@ bool writeInPlace(const char* path, off_t at, bool durable, int* keep = nullptr)
 }
 
 int usage() {
-  std::fputs("usage: bench-floor read FILE...\n"
+  std::fputs("usage: bench-floor read [--also OFFSET LENGTH] FILE...\n"
              "       bench-floor write [--fsync|--syncfs] --at OFFSET FILE...\n", stderr);
   return 2;
 }
@@ -76,6 +90,14 @@ int main(int argc, char* argv[]) {
   int i = 2;
   bool durable = false, together = false;
   long long at = -1;
+  Extra extra;
+  if (mode == "read" && i + 2 < argc && std::string_view(argv[i]) == "--also") {
+    const long long from = std::atoll(argv[i + 1]), length = std::atoll(argv[i + 2]);
+    if (from < 0 || length <= 0) return usage();
+    extra.at = static_cast<off_t>(from);
+    extra.buffer.resize(static_cast<size_t>(length));
+    i += 3;
+  }
   if (mode == "write") {
     for (; i < argc && argv[i][0] == '-'; ++i) {
       const std::string_view opt = argv[i];
@@ -93,7 +115,7 @@ int main(int argc, char* argv[]) {
   unsigned sum = 0;
   int first = -1;  // with --syncfs, the first file stays open for the flush
   for (; i < argc; ++i)
-    allOk &= mode == "read" ? readHead(argv[i], sum) : writeInPlace(argv[i], at, durable, together ? &first : nullptr);
+    allOk &= mode == "read" ? readHead(argv[i], extra, sum) : writeInPlace(argv[i], at, durable, together ? &first : nullptr);
   if (first >= 0) {
     if (::syncfs(first) != 0) allOk = fail("(file system)", "syncfs");
     ::close(first);

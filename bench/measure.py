@@ -6,9 +6,14 @@ monotonic clock because time's own is only good to 10 ms. Runs are
 interleaved (run 1 of every program, then run 2, ...) so that the machine's
 noise falls on all of them alike. Reading is timed with a warm cache (one
 untimed pass first); shifting is timed on a fresh copy of the set per run,
-copied and synced before the clock starts.
+copied and synced before the clock starts. On the sets of large files
+(RAW, HEIC) the programs that change only the date bytes in place share one
+copy, whose dates are written back and flushed before each of their runs,
+instead of copying gigabytes per run; the peers, which rewrite whole files,
+still get a fresh copy each.
 """
 import datetime
+import filecmp
 import os
 import shutil
 import subprocess
@@ -42,9 +47,15 @@ def available(prog):
         return False
 
 
-def read_programs(cli, floor):
-    return [
-        Program("floor", "floor: pread 64 KiB", "floor", [floor, "read"]),
+def read_programs(cli, floor, extra=None, jpeg=True):
+    """`extra`, an (offset, length) the floor reads after the head; `jpeg`,
+    whether the set is of JPEGs, which jhead alone among the peers needs."""
+    floor_prog = Program("floor", "floor: pread 64 KiB", "floor", [floor, "read"])
+    if extra:
+        floor_prog = Program("floor", "floor: pread 64 KiB + the Exif item (%d bytes)" % extra[1], "floor",
+                             [floor, "read", "--also", str(extra[0]), str(extra[1])])
+    programs = [
+        floor_prog,
         Program("lumidate", "lumidate-cli dates", "lumidate", [cli, "dates"],
                 probe=[cli, "dates", "--help"], missing="not built yet"),
         Program("jhead", "jhead", "peer", ["jhead"], probe=["jhead", "-V"]),
@@ -55,10 +66,12 @@ def read_programs(cli, floor):
                 ["exiftool", "-fast2", "-DateTimeOriginal", "-CreateDate", "-ModifyDate"],
                 probe=["exiftool", "-ver"]),
     ]
+    return [p for p in programs if jpeg or p.key != "jhead"]
 
 
-def shift_programs(cli, floor, date_at):
-    return [
+def shift_programs(cli, floor, date_at, jpeg=True):
+    """On other sets than JPEG ones only exiftool among the peers writes."""
+    programs = [
         Program("floor-write", "floor: write 19 bytes", "floor",
                 [floor, "write", "--at", str(date_at)]),
         Program("floor-fsync", "floor: write 19 bytes + fsync", "floor",
@@ -76,18 +89,20 @@ def shift_programs(cli, floor, date_at):
                 ["exiftool", "-q", "-overwrite_original_in_place", "-AllDates+=1"],
                 probe=["exiftool", "-ver"]),
     ]
+    return [p for p in programs if jpeg or p.kind != "peer" or p.key == "exiftool"]
 
 
-def run_timed(argv, cwd, log_dir, tag):
+def run_timed(argv, cwd, log_dir, tag, keep_output=False):
     """Runs argv once; answers (wall seconds, peak RSS in KiB, exit status,
-    last line of its standard error, user + system CPU seconds)."""
+    last line of its standard error, user + system CPU seconds). With
+    keep_output, its standard output goes to LOG_DIR/TAG.stdout."""
     time_out = os.path.join(log_dir, tag + ".time")
     err_path = os.path.join(log_dir, tag + ".stderr")
-    with open(err_path, "wb") as err:
+    out_path = os.path.join(log_dir, tag + ".stdout") if keep_output else os.devnull
+    with open(err_path, "wb") as err, open(out_path, "wb") as out:
         start = time.perf_counter()
         status = subprocess.run([TIME, "-v", "-o", time_out] + argv, cwd=cwd,
-                                stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                                stderr=err).returncode
+                                stdin=subprocess.DEVNULL, stdout=out, stderr=err).returncode
         wall = time.perf_counter() - start
     rss, cpu = 0, 0.0
     with open(time_out) as f:
@@ -117,8 +132,45 @@ def shifted_check(folder, first_name, want_dto):
     return out == want_dto, out
 
 
-def measure_set(name, set_dir, first_dto, programs, runs, work_dir, log_dir, shifting):
-    files = sorted(f for f in os.listdir(set_dir) if f.endswith(".jpg"))
+def working_copy(set_dir, work_dir, prog, restore):
+    """The folder a shifting run works in. With `restore` (a function that
+    writes a folder's original dates back), the floors and Lumidate share one
+    copy, made once and restored after each run; others get a fresh copy."""
+    if restore is None or prog.kind == "peer":
+        cwd = os.path.join(work_dir, prog.key)
+        fresh_copy(set_dir, cwd)
+        return cwd
+    cwd = os.path.join(work_dir, "in-place")
+    if not os.path.isdir(cwd):
+        fresh_copy(set_dir, cwd)
+    return cwd
+
+
+def shift_problem(prog, cwd, set_dir, first, want_dto, restore):
+    """Why a shifting run that exited well does not count, or None; a shared
+    copy gets its dates back here, and must then equal the original byte for
+    byte: a shift in place changes nothing but the dates."""
+    problem = None
+    if prog.kind != "floor":
+        ok, seen = shifted_check(cwd, first, want_dto)
+        if not ok:
+            problem = "did not shift: %s reads %r, expected %r" % (first, seen, want_dto)
+    if restore is not None and prog.kind != "peer":
+        restore(cwd)
+        same = filecmp.cmp(os.path.join(cwd, first), os.path.join(set_dir, first), shallow=False)
+        if not same:
+            shutil.rmtree(cwd)  # the next program gets a fresh copy
+            problem = problem or "changed bytes of %s other than its dates" % first
+    return problem
+
+
+def listed(stdout_path, text):
+    with open(stdout_path, "rb") as f:
+        return text.encode() in f.read()
+
+
+def measure_set(name, set_dir, first_dto, programs, runs, work_dir, log_dir, shifting, ext="jpg", restore=None):
+    files = sorted(f for f in os.listdir(set_dir) if f.endswith("." + ext))
     for p in programs:
         if not available(p):
             p.skip_reason = p.missing
@@ -132,9 +184,14 @@ def measure_set(name, set_dir, first_dto, programs, runs, work_dir, log_dir, shi
         want_dto = (first + datetime.timedelta(hours=1)).strftime("%Y:%m:%d %H:%M:%S")
     elif active:
         for p in active:  # warm cache, and a first check that the program works
-            _, _, status, last, _ = run_timed(p.argv + files, set_dir, log_dir, "%s-%s-warm" % (name, p.key))
+            tag = "%s-%s-warm" % (name, p.key)
+            _, _, status, last, _ = run_timed(p.argv + files, set_dir, log_dir, tag, keep_output=True)
             if status != 0:
                 p.skip_reason = "failed (exit %d): %s" % (status, last)
+            elif p.kind != "floor" and not listed(os.path.join(log_dir, tag + ".stdout"), first_dto):
+                # A program that passes over files it cannot read is not fast.
+                p.skip_reason = "did not list %s's DateTimeOriginal %s" % (files[0], first_dto)
+            if p.skip_reason:
                 print("    %-34s skipped: %s" % (p.label, p.skip_reason), flush=True)
         active = [p for p in active if p.skip_reason is None]
     for run in range(runs if not shifting else 0):
@@ -150,24 +207,18 @@ def measure_set(name, set_dir, first_dto, programs, runs, work_dir, log_dir, shi
                 continue
             cwd = set_dir
             if shifting:
-                cwd = os.path.join(work_dir, p.key)
-                fresh_copy(set_dir, cwd)
+                cwd = working_copy(set_dir, work_dir, p, restore)
             tag = "%s-%s-%s-%d" % (name, "shift" if shifting else "read", p.key, run + 1)
             wall, rss, status, last, cpu = run_timed(p.argv + files, cwd, log_dir, tag)
-            if status != 0:
-                p.skip_reason = "failed (exit %d): %s" % (status, last)
+            problem = shift_problem(p, cwd, set_dir, files[0], want_dto, restore) if shifting else None
+            if status != 0 or problem:
+                p.skip_reason = "failed (exit %d): %s" % (status, last) if status != 0 else problem
                 print("    %-34s skipped: %s" % (p.label, p.skip_reason), flush=True)
                 continue
-            if shifting and p.kind != "floor":
-                ok, seen = shifted_check(cwd, files[0], want_dto)
-                if not ok:
-                    p.skip_reason = "did not shift: %s reads %r, expected %r" % (files[0], seen, want_dto)
-                    print("    %-34s skipped: %s" % (p.label, p.skip_reason), flush=True)
-                    continue
             p.walls.append(wall)
             p.rss_kb.append(rss)
             p.cpus.append(cpu)
-            if shifting:  # a 12 MP set is gigabytes: keep one copy at a time
+            if shifting and os.path.basename(cwd) == p.key:  # a 12 MP set is gigabytes: keep one copy at a time
                 shutil.rmtree(cwd, ignore_errors=True)
             print("    %-34s run %d: %8.3f s  %7.1f MB" % (p.label, run + 1, wall, rss / 1024.0), flush=True)
     if shifting:

@@ -3,6 +3,7 @@ floor program, and the arithmetic of the results table. Run by bench/run
 before it measures anything (python3 -m unittest bench/test_bench.py)."""
 import contextlib
 import io
+import json
 import os
 import shutil
 import subprocess
@@ -13,8 +14,12 @@ import unittest
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
 import gensets  # noqa: E402
+import heicset  # noqa: E402
 import measure  # noqa: E402
+import rawset  # noqa: E402
 import report  # noqa: E402
+
+FORMATS = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "shared", "testdata", "formats")
 
 
 def fake_base(big_endian=True):
@@ -115,6 +120,7 @@ class FloorTest(unittest.TestCase):
             (["read", path], 0),
             (["write", path], 2),  # no offset
             (["copy", path], 2),
+            (["read", "--also", "5", "0", path], 2),  # an empty range
         ]
         for args, status in cases:
             done = subprocess.run([self.floor] + args, capture_output=True)
@@ -124,6 +130,35 @@ class FloorTest(unittest.TestCase):
 def program(key, kind, walls, skip=None, rss=None, cpus=None):
     return {"key": key, "label": key, "kind": kind, "skip": skip, "walls": walls,
             "rss_kb": rss or [1024] * len(walls), "start_walls": [], "cpus": cpus or []}
+
+
+class OtherSetsTest(unittest.TestCase):
+    def test_the_dng_keeps_its_dates_in_its_head_and_its_sensor_data_at_the_end(self):
+        data = rawset.dng_bytes(gensets.PLACEHOLDERS, gensets.SUBSEC_PLACEHOLDERS)
+        self.assertGreater(len(data), 20e6)
+        self.assertLess(max(gensets.locate_fields(data).values()), 2048)
+        if shutil.which("exiftool"):
+            with tempfile.NamedTemporaryFile(suffix=".dng") as f:
+                f.write(data)
+                f.flush()
+                out = json.loads(subprocess.run(
+                    ["exiftool", "-j", "-validate", "-FileType", "-SubIFD:StripOffsets",
+                     "-SubIFD:StripByteCounts", f.name], capture_output=True, text=True).stdout)[0]
+            self.assertEqual((out["Validate"], out["FileType"]), ("OK", "DNG"))
+            self.assertEqual(out["StripOffsets"] + out["StripByteCounts"], len(data))
+
+    @unittest.skipUnless(os.path.isdir(FORMATS), "the format test files are not there")
+    def test_the_exif_item_of_real_heif_files_holds_their_dates(self):
+        with open(os.path.join(FORMATS, "expected.json")) as f:
+            records = [r for r in json.load(f) if r["format"] in ("HEIC", "HEIF", "AVIF")]
+        self.assertGreater(len(records), 5)
+        for record in records:
+            with open(os.path.join(FORMATS, record["file"]), "rb") as f:
+                at, length = heicset.exif_range(f.read())
+            places = record["date_offsets"]
+            offsets = [o for k in ("DateTimeOriginal", "CreateDate", "ModifyDate") for o in places[k] or []]
+            for offset in offsets:
+                self.assertTrue(at <= offset and offset + 19 <= at + length, (record["file"], offset))
 
 
 class ReportTest(unittest.TestCase):
@@ -232,13 +267,30 @@ class MeasureSetTest(unittest.TestCase):
     def tearDownClass(cls):
         shutil.rmtree(cls.root)
 
-    def measure(self, programs, shifting):
+    def measure(self, programs, shifting, restore=None):
         logs = os.path.join(self.root, "logs")
         os.makedirs(logs, exist_ok=True)
         with contextlib.redirect_stdout(io.StringIO()):
             result = measure.measure_set("t", self.folder, gensets.dates_for(1)["DateTimeOriginal"],
-                                         programs, 2, os.path.join(self.root, "work"), logs, shifting)
+                                         programs, 2, os.path.join(self.root, "work"), logs, shifting,
+                                         restore=restore)
         return {p["key"]: p for p in result["programs"]}
+
+    def test_a_shared_copy_gets_its_dates_back_and_may_change_nothing_else(self):
+        with open(os.path.join(self.folder, "layout.json")) as f:
+            stamp = json.load(f)
+        # Writes the first file's DateTimeOriginal one hour later, in place.
+        later = "2014:03:08 08:22:01"
+        shift = "printf '%s' | dd of=img-00001.jpg bs=1 seek=%d conv=notrunc status=none" % (
+            later, stamp["fields"]["DateTimeOriginal"])
+        programs = [
+            measure.Program("dates", "dates", "lumidate", ["sh", "-c", shift, "sh"]),
+            measure.Program("more", "more", "lumidate", ["sh", "-c", shift + "; printf x >> img-00001.jpg", "sh"]),
+        ]
+        got = self.measure(programs, True, lambda cwd: gensets.restore_fields(cwd, stamp))
+        self.assertIsNone(got["dates"]["skip"])
+        self.assertEqual(len(got["dates"]["walls"]), 2)
+        self.assertEqual(got["more"]["skip"], "changed bytes of img-00001.jpg other than its dates")
 
     def test_shifting_is_checked_and_failures_are_reported(self):
         programs = [
@@ -262,7 +314,10 @@ class MeasureSetTest(unittest.TestCase):
         counter = os.path.join(self.root, "count.sh")
         with open(counter, "w") as f:
             f.write('echo "$#" >> "%s"\n' % os.path.join(self.root, "counts"))
-        got = self.measure([measure.Program("c", "c", "peer", ["sh", counter])], shifting=False)
+            f.write('echo "%s"\n' % gensets.dates_for(1)["DateTimeOriginal"])
+        silent = measure.Program("silent", "silent", "lumidate", ["true"])
+        got = self.measure([measure.Program("c", "c", "peer", ["sh", counter]), silent], shifting=False)
+        self.assertIn("did not list img-00001.jpg's DateTimeOriginal", got["silent"]["skip"])
         with open(os.path.join(self.root, "counts")) as f:
             counts = [int(line) for line in f]
         # warm-up, two one-file start-up runs, two timed runs
