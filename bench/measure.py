@@ -8,7 +8,7 @@ noise falls on all of them alike. Reading is timed with a warm cache (one
 untimed pass first); shifting is timed on a fresh copy of the set per run,
 copied and synced before the clock starts. On the sets of large files
 (RAW, HEIC) the programs that change only the date bytes in place share one
-copy, whose dates are written back and flushed before each of their runs,
+copy, whose dates are written back and flushed after each of their runs,
 instead of copying gigabytes per run; the peers, which rewrite whole files,
 still get a fresh copy each.
 """

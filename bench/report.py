@@ -239,7 +239,7 @@ def render(results, machine, sets, command, model_note, notes="", window_note=""
            "`/ floor` compares with the floor of the same section (pread of 64 KiB for reading, and",
            "of the Exif item too where it lies beyond, as in HEIC files; 19 bytes + fsync for shifting);",
            "`/ Lumidate` says how many times slower a peer is. On the RAW and HEIC sets the floors and",
-           "Lumidate shift one shared copy whose dates are written back and flushed before each run.",
+           "Lumidate shift one shared copy whose dates are written back and flushed between runs.",
            "`CPU per file` is user + system time (all threads) per file, median of the runs; it is",
            "less disturbed by other work on the machine than wall time, but only good to 10 ms per run.",
            "`1 file alone` is the median wall time of the same program given only the first file:",
