@@ -12,12 +12,11 @@
 #include <utility>
 #include <variant>
 
+#include "formats/PhotoExtensions.h"
+
 namespace FileExpansion {
 
 namespace {
-
-constexpr std::array<std::string_view, 8> kExtensions = {".tiff", ".TIFF", ".tif", ".TIF",
-                                                         ".JPG",  ".jpg",  ".JPEG", ".jpeg"};
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 char folded(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
@@ -43,8 +42,16 @@ std::string_view digitRun(std::string_view s, std::size_t from) {
 }  // namespace
 
 bool hasAcceptedExtension(const std::filesystem::path& path) {
-  const std::string extension = path.extension().string();
-  return std::find(kExtensions.begin(), kExtensions.end(), extension) != kExtensions.end();
+  const std::string dotted = path.extension().string();
+  if (dotted.size() < 2) return false;
+  const std::string_view extension = std::string_view(dotted).substr(1);
+  const auto& exact = PhotoExtensions::kExact;
+  if (std::find(exact.begin(), exact.end(), extension) != exact.end()) return true;
+  const auto& anyCase = PhotoExtensions::kAnyCase;
+  return std::any_of(anyCase.begin(), anyCase.end(), [&](const PhotoExtensions::AnyCase& known) {
+    return std::equal(extension.begin(), extension.end(), known.extension.begin(), known.extension.end(),
+                      [](char a, char b) { return folded(a) == b; });
+  });
 }
 
 std::strong_ordering naturalCompare(std::string_view a, std::string_view b) {

@@ -3,9 +3,9 @@
 // to open, the way the file manager would list them.
 //
 // A folder contributes every file below it, at any depth, whose extension is
-// one of "tiff", "TIFF", "tif", "TIF", "JPG", "jpg", "JPEG", "jpeg" (compared
-// exactly); a file contributes itself under the same rule. No file is taken
-// twice. The result is sorted by path with numbers inside names compared by
+// a photo's (PhotoExtensions.h: the JPEG and TIFF ones compared exactly, the
+// RAW, HEIF, PNG and WebP ones in any case); a file contributes itself under
+// the same rule. No file is taken twice. The result is sorted by path with numbers inside names compared by
 // value ("img2" before "img10") and letters without regard to case.
 
 #include <compare>

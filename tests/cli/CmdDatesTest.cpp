@@ -28,7 +28,7 @@ class CmdDatesFolder : public ::testing::Test {
     lumtest::writeFile(root_ / "img9.JPG", lumtest::JpegBuilder().jfif(1, 1).build());
     lumtest::writeFile(root_ / "sub/img1.jpeg", lumtest::JpegBuilder().exif(tiff).build());
     lumtest::writeFile(root_ / "notes.txt", {'h', 'i'});
-    lumtest::writeFile(root_ / "picture.png", {0x89, 'P', 'N', 'G'});
+    lumtest::writeFile(root_ / "clip.MOV", {0, 0, 0, 8, 'f', 't', 'y', 'p'});
   }
   const lumtest::TempFolder folder_;
   const fs::path& root_ = folder_.path();

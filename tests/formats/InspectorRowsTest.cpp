@@ -5,6 +5,7 @@
 
 #include "ImageFileTestSupport.h"
 #include "core/CatalogueTestEntries.h"
+#include "core/Localization.h"
 #include "core/OrbTiff.h"
 #include "formats/inspector/LumInfoDataSource.h"
 
@@ -75,6 +76,27 @@ TEST(InspectorRows, GPSValuesWithTheirReferences) {
   EXPECT_EQ(texts(LumInfoDataSource::rowsFor(&bare, nullptr, {})),
             (std::vector<std::string>{"# GPS", "GPS|GPS Latitude|35\u00B0 30' 0.00\" (35.5)",
                                       "GPS|GPS Altitude|10.5 m"}));
+}
+
+// The container group leads the rows when the format is known; each part
+// of the Exif's place is a word of its own for translation.
+TEST(InspectorRows, ContainerGroup) {
+  Localization::setLookup([](std::string_view table, std::string_view key) -> std::optional<std::string> {
+    if (table == Localization::kIFDTable && key == "CMT2 box") return "Box 2";
+    return std::nullopt;
+  });
+  const struct {
+    const char *container, *place;
+    std::vector<std::string> rows;
+  } cases[] = {
+      {"", "", {}},
+      {"", "APP1 segment", {}},
+      {"PNG", "", {"# File", "File|Container|PNG"}},
+      {"HEIC", "Exif item", {"# File", "File|Container|HEIC, Exif item"}},
+      {"CR3", "CMT1 box, CMT2 box", {"# File", "File|Container|CR3, CMT1 box, Box 2"}},
+  };
+  for (const auto& c : cases) EXPECT_EQ(texts(LumInfoDataSource::containerRows(c.container, c.place)), c.rows);
+  Localization::setLookup({});
 }
 
 TEST(InspectorRows, FollowsTheShownFile) {

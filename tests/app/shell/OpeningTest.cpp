@@ -28,19 +28,19 @@ class OpeningTest : public QObject {
   Q_OBJECT
 
  private slots:
-  // A folder opens its photos in the file manager's order, the png left
-  // out; a file that cannot be read is named in an alert once the window
-  // with the others is up.
+  // A folder opens its photos in the file manager's order, a PNG among them
+  // and the video left out; a file that cannot be read is named in an alert
+  // once the window with the others is up.
   void openFolderKeepsPhotosSortedAndNamesTheUnreadable() {
     AppFixture f;
-    for (const char* name : {"b.JPG", "a.jpg", "c.png", "sub/d.tif"}) f.photo(name);
+    for (const char* name : {"b.JPG", "a.jpg", "c.PNG", "c.mp4", "sub/d.tif"}) f.photo(name);
     doctest_support::writeBytes(f.folder / "e.jpg", {'n', 'o', 't', ' ', 'a', ' ', 'j', 'p', 'e', 'g'});
     std::size_t windowsAtAlert = 0;
     f.prompts.onAlert = [&] { windowsAtAlert = f.controller.windows().size(); };
     f.prompts.nextOpenRequest = Prompts::OpenRequest{{f.folder.path()}, false};
     QVERIFY(f.waitForOpening([&] { f.controller.openDocument(); }));
     QCOMPARE(f.controller.windows().size(), 1u);
-    const std::vector expected{f.folder / "a.jpg", f.folder / "b.JPG", f.folder / "sub/d.tif"};
+    const std::vector expected{f.folder / "a.jpg", f.folder / "b.JPG", f.folder / "c.PNG", f.folder / "sub/d.tif"};
     QVERIFY(f.multiWindowRows() == expected);
     QCOMPARE(f.prompts.alerts.size(), 1u);
     QCOMPARE(windowsAtAlert, 1u);

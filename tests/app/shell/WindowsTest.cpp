@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <fstream>
+
 #include "app/loading/LoadProgressWindow.h"
 #include "app/sheets/FileListAlert.h"
 #include "app/sheets/OpenFileDialog.h"
@@ -112,6 +114,40 @@ class WindowsTest : public QObject {
     std::vector<fs::path> chosen = dialog.chosenPaths();
     std::sort(chosen.begin(), chosen.end());
     QVERIFY(chosen == (std::vector<fs::path>{f.folder / "a.jpg", f.folder / "sub"}));
+  }
+
+  // Each filter shows its formats whichever case the camera wrote their
+  // extensions in; videos and odd spellings of JPEG appear under none but
+  // "All Files".
+  void openDialogFiltersPhotoFamiliesInEitherCase() {
+    AppFixture f;
+    for (const char* name : {"a.CR3", "b.cr3", "c.HEIC", "d.webp", "e.jpg", "f.Jpg", "g.MP4"})
+      std::ofstream(f.folder.path() / name) << 'x';
+    OpenFileDialog dialog(nullptr, false);
+    auto* model = dialog.findChild<QFileSystemModel*>();
+    QSignalSpy loaded(model, &QFileSystemModel::directoryLoaded);
+    const QString folder = QString::fromStdString(f.folder.path().string());
+    dialog.setDirectory(folder);
+    dialog.show();
+    QVERIFY(loaded.count() > 0 || loaded.wait(5000));
+    const auto shown = [&] {
+      QStringList names;
+      const QModelIndex parent = model->index(folder);
+      for (int row = 0; row < model->rowCount(parent); ++row) {
+        const QModelIndex index = model->index(row, 0, parent);
+        if (!model->isDir(index) && (model->flags(index) & Qt::ItemIsEnabled)) names << model->fileName(index);
+      }
+      names.sort();
+      return names.join(' ');
+    };
+    const QStringList filters = dialog.nameFilters();
+    QCOMPARE(filters.size(), 6);
+    const QString expected[] = {"a.CR3 b.cr3 c.HEIC d.webp e.jpg", "a.CR3 b.cr3", "c.HEIC", "", "d.webp",
+                                "a.CR3 b.cr3 c.HEIC d.webp e.jpg f.Jpg g.MP4"};
+    for (int i = 0; i < filters.size(); ++i) {
+      dialog.selectNameFilter(filters[i]);
+      QTRY_COMPARE(shown(), expected[i]);
+    }
   }
 
   void failureListAlertShowsEveryPath() {
