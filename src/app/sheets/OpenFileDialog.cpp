@@ -56,6 +56,9 @@ QStringList OpenFileDialog::photoNameFilters() {
 OpenFileDialog::OpenFileDialog(QWidget* parent, bool separateWindowsPreselected) : QFileDialog(parent) {
   setObjectName("openFileDialog");
   setOption(QFileDialog::DontUseNativeDialog);
+  // The filter list shows "Photos", "Camera RAW", ...: the full "Photos"
+  // pattern list alone would make the dialog wider than most screens.
+  setOption(QFileDialog::HideNameFilterDetails);
   setFileMode(QFileDialog::ExistingFiles);
   setAcceptMode(QFileDialog::AcceptOpen);
   // Qt's own dialog matches name filters without regard to case unless told:
