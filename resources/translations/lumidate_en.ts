@@ -1689,6 +1689,10 @@
         <source>TIFF header at 0</source>
         <translation>TIFF header at 0</translation>
     </message>
+    <message>
+        <source>embedded preview JPEG&apos;s APP1 segment</source>
+        <translation>embedded preview JPEG&apos;s APP1 segment</translation>
+    </message>
 </context>
 <context>
     <name>IPTC</name>

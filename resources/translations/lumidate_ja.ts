@@ -1689,6 +1689,10 @@
         <source>TIFF header at 0</source>
         <translation>先頭の TIFF ヘッダー</translation>
     </message>
+    <message>
+        <source>embedded preview JPEG&apos;s APP1 segment</source>
+        <translation>埋め込みプレビュー JPEG の APP1 セグメント</translation>
+    </message>
 </context>
 <context>
     <name>IPTC</name>

@@ -39,19 +39,33 @@ std::string_view digitRun(std::string_view s, std::size_t from) {
   return s.substr(from, end - from);
 }
 
+// The extension without its dot; empty when there is none.
+std::string extensionOf(const std::filesystem::path& path) {
+  const std::string dotted = path.extension().string();
+  return dotted.size() < 2 ? std::string() : dotted.substr(1);
+}
+
+// Whether extension, in any case, is the lower-case known.
+bool sameFolded(std::string_view extension, std::string_view known) {
+  return std::equal(extension.begin(), extension.end(), known.begin(), known.end(),
+                    [](char a, char b) { return folded(a) == b; });
+}
+
 }  // namespace
 
 bool hasAcceptedExtension(const std::filesystem::path& path) {
-  const std::string dotted = path.extension().string();
-  if (dotted.size() < 2) return false;
-  const std::string_view extension = std::string_view(dotted).substr(1);
+  const std::string extension = extensionOf(path);
   const auto& exact = PhotoExtensions::kExact;
   if (std::find(exact.begin(), exact.end(), extension) != exact.end()) return true;
   const auto& anyCase = PhotoExtensions::kAnyCase;
-  return std::any_of(anyCase.begin(), anyCase.end(), [&](const PhotoExtensions::AnyCase& known) {
-    return std::equal(extension.begin(), extension.end(), known.extension.begin(), known.extension.end(),
-                      [](char a, char b) { return folded(a) == b; });
-  });
+  return std::any_of(anyCase.begin(), anyCase.end(),
+                     [&](const PhotoExtensions::AnyCase& known) { return sameFolded(extension, known.extension); });
+}
+
+bool hasVideoExtension(const std::filesystem::path& path) {
+  const std::string extension = extensionOf(path);
+  const auto& videos = PhotoExtensions::kVideos;
+  return std::any_of(videos.begin(), videos.end(), [&](std::string_view known) { return sameFolded(extension, known); });
 }
 
 std::strong_ordering naturalCompare(std::string_view a, std::string_view b) {
@@ -196,7 +210,7 @@ Expansion allPhotoPaths(const std::vector<std::filesystem::path>& paths) {
     }
     if (S_ISDIR(st.st_mode))
       walkFolder(p, out);
-    else if (hasAcceptedExtension(p))
+    else if (hasAcceptedExtension(p) || hasVideoExtension(p))
       out.take(p, std::pair{st.st_dev, st.st_ino});
   }
   std::sort(out.result.files.begin(), out.result.files.end(), naturalPathLess);

@@ -5,8 +5,8 @@
 //
 // The JPEG and TIFF ones are compared exactly, as they always were ("Jpg" is
 // not taken); the others without regard to case, since cameras and phones
-// write them either way. Videos (.mp4, .mov) are not listed: a video opened
-// by name is refused once its bytes are read.
+// write them either way. Videos are never taken from a folder; one named on
+// its own is taken so that opening it can say why it is refused.
 
 #include <array>
 #include <string_view>
@@ -35,5 +35,8 @@ inline constexpr std::array<AnyCase, 25> kAnyCase{{
     {"hif", Family::Heif},      {"avif", Family::Heif},     {"png", Family::Png},
     {"webp", Family::WebP},
 }};
+
+// Videos, in any case: taken only when named on their own.
+inline constexpr std::array<std::string_view, 2> kVideos{"mp4", "mov"};
 
 }  // namespace PhotoExtensions
