@@ -49,6 +49,7 @@ TEST_F(CmdDatesFolder, ListsPhotosOnceInFileManagerOrderAlignedWhenPlain) {
   for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(array[i].at("path"), (root_ / order[i]).string());
   EXPECT_EQ(array[0].at("editable"), false);
   EXPECT_EQ(array[1].at("SubSecTimeOriginal"), " 42");  // blanks kept
+  EXPECT_EQ(array[1].at("container"), "JPEG");
   // The folder's video is passed over; named on its own, it is refused.
   const auto video = runDates("--json " + shellQuoted(root_ / "clip.MOV"));
   EXPECT_EQ(json::parse(video.out).at(0).at("error").at("reason"), "videos are not edited yet");

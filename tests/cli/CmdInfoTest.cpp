@@ -79,6 +79,7 @@ TEST(CliInfo, JsonListsEveryFileWithItsRowsOrItsError) {
   const json& rows = out[0].at("rows");
   EXPECT_NE(std::find(rows.begin(), rows.end(), json{{"group", "JFIF"}, {"title", "JFIF Version"}, {"value", "1.1"}}),
             rows.end());
+  EXPECT_EQ(rowValue(out[0], "File", "Container"), "JPEG, APP1 segment");
   EXPECT_EQ(out[1].at("path"), (*lumtest::realDataDir() / "broken-ifd0.tif").string());
   EXPECT_EQ(out[1].at("error").at("code"), -1);
   EXPECT_FALSE(out[1].at("error").value("reason", "").empty());

@@ -32,14 +32,14 @@ OrbTiff tiffOf(std::int8_t endian, const std::vector<OrbIFDEntry>& entries) {
   return tiff;
 }
 
-TEST(InspectorRows, JpegWithOnlyJFIFShowsOnlyTheJFIFGroup) {
+TEST(InspectorRows, JpegWithOnlyJFIFShowsItsContainerAndTheJFIFGroup) {
   const lumtest::Opened opened = lumtest::openBytes(lumtest::JpegBuilder().jfif(1, 2, 1, 300, 300).build());
   ASSERT_TRUE(opened.file) << opened.error.domain << opened.error.code;
   LumInfoDataSource source;
   source.setImageFile(opened.file.get());
   EXPECT_EQ(texts(source.IFDDataSources()),
-            (std::vector<std::string>{"# JFIF", "JFIF|JFIF Version|1.2", "JFIF|Density Unit|dpi",
-                                      "JFIF|X Density|300", "JFIF|Y Density|300"}));
+            (std::vector<std::string>{"# File", "File|Container|JPEG", "# JFIF", "JFIF|JFIF Version|1.2",
+                                      "JFIF|Density Unit|dpi", "JFIF|X Density|300", "JFIF|Y Density|300"}));
   EXPECT_TRUE(source.isHeadingRow(0));
   // Headings, other columns and rows past the last have no value.
   EXPECT_EQ(source.objectValue("Value", 0) + source.objectValue("Other", 2) + source.objectValue("Value", 99), "");
@@ -105,7 +105,7 @@ TEST(InspectorRows, FollowsTheShownFile) {
   EXPECT_FALSE(source.imageFileDidSave(b.file.get()));     // not the shown file
   EXPECT_TRUE(source.imageFileDidSave(a.file.get()));
   EXPECT_TRUE(source.imageFileDidChange(b.file.get()));
-  EXPECT_EQ(source.objectValue("Value", 1), "1.2");
+  EXPECT_EQ(source.objectValue("Value", 3), "1.2");
   EXPECT_TRUE(source.imageFileDidChange(nullptr));         // no file: an empty table
   EXPECT_EQ(source.numberOfRows(), 0u);
   EXPECT_FALSE(source.imageFileDidSave(nullptr));

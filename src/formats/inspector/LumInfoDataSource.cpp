@@ -112,8 +112,9 @@ void LumInfoDataSource::pMakeIFDDataSources() {
                                    imageFile_->originalDateTimeDigitizedString(),
                                    imageFile_->originalDateTimeString()};
   const auto& jfif = imageFile_->JFIF();
+  const bool read = readsLargeStructures_ || !imageFile_->structureLiesBeyondHead() || !imageFile_->tiffPending();
   rows_ = containerRows(imageFile_->containerName(), imageFile_->exifPlace());
-  std::vector<LumInfoRow> metadata = rowsFor(imageFile_->tiff().get(), jfif ? &*jfif : nullptr, dates);
+  std::vector<LumInfoRow> metadata = rowsFor(read ? imageFile_->tiff().get() : nullptr, jfif ? &*jfif : nullptr, dates);
   rows_.insert(rows_.end(), std::make_move_iterator(metadata.begin()), std::make_move_iterator(metadata.end()));
 }
 
