@@ -90,19 +90,4 @@ TEST(CliInfo, JsonListsEveryFileWithItsRowsOrItsError) {
   EXPECT_EQ(runInfo("").status, 2);
 }
 
-// A photo in another container than JPEG or TIFF names it, and the place of
-// its Exif, in a group of its own.
-TEST(CliInfo, OtherFormatsNameTheirContainer) {
-  const std::filesystem::path dir = LUMIDATE_FORMATS_TESTDATA;
-  if (!std::filesystem::exists(dir / "expected.json")) GTEST_SKIP() << "format test files not found in " << dir;
-  const std::pair<const char*, const char*> cases[] = {{"apple-iphone11pro-heic.HEIC", "HEIC, Exif item"},
-                                                       {"canon-eos-m50-cr3-stripped.cr3", "CR3, CMT1 box"},
-                                                       {"png-exif-chunk-after-idat-canon-s40.png", "PNG, eXIf chunk"},
-                                                       {"nikon-d1x-webp.webp", "WebP, EXIF chunk"}};
-  for (const auto& [name, shown] : cases) {
-    const auto run = runInfo("--json " + lumtest::shellQuoted((dir / name).string()));
-    EXPECT_EQ(rowValue(json::parse(run.out).at(0), "File", "Container"), shown) << name;
-  }
-}
-
 }  // namespace
