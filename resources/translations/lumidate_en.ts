@@ -1686,8 +1686,8 @@
         <translation>EXIF chunk</translation>
     </message>
     <message>
-        <source>TIFF header at 0</source>
-        <translation>TIFF header at 0</translation>
+        <source>TIFF structure</source>
+        <translation>TIFF structure</translation>
     </message>
     <message>
         <source>embedded preview JPEG&apos;s APP1 segment</source>

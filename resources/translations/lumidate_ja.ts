@@ -1686,8 +1686,8 @@
         <translation>EXIF チャンク</translation>
     </message>
     <message>
-        <source>TIFF header at 0</source>
-        <translation>先頭の TIFF ヘッダー</translation>
+        <source>TIFF structure</source>
+        <translation>TIFF 構造</translation>
     </message>
     <message>
         <source>embedded preview JPEG&apos;s APP1 segment</source>

@@ -32,7 +32,7 @@ inline constexpr std::array kIFDWords{kUnknown, kLittleEndian, kBigEndian, kPhot
 // The places of a file's Exif as the container scan names them.
 inline constexpr std::array<std::string_view, 9> kExifPlaces{
     "APP1 segment", "embedded JPEG's APP1 segment", "embedded preview JPEG's APP1 segment", "Exif item", "CMT1 box",
-    "CMT2 box", "eXIf chunk", "EXIF chunk", "TIFF header at 0"};
+    "CMT2 box", "eXIf chunk", "EXIF chunk", "TIFF structure"};
 
 // Table "IPTC".
 inline constexpr std::string_view kIPTCInformationInterchangeModel = "IPTC Information Interchange Model";
