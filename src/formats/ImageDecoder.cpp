@@ -20,10 +20,14 @@ HeaderCheck checkHeader(orb::ByteView bytes) {
 }
 
 std::shared_ptr<const lum::Bitmap> decodeForBox(orb::ByteView bytes, int boxWidth, int boxHeight) {
-  switch (kindOf(bytes)) {
-    case Kind::JPEG: return decodeJPEG(bytes, boxWidth, boxHeight);
-    case Kind::TIFF: return decodeTIFF(bytes);
-    case Kind::Unknown: break;
+  switch (formatOf(bytes)) {
+    case Format::JPEG: return decodeJPEG(bytes, boxWidth, boxHeight);
+    case Format::TIFF: return decodeTIFF(bytes);
+    case Format::RAW: return decodeRAW(bytes, boxWidth, boxHeight);
+    case Format::HEIF: return decodeHEIF(bytes, boxWidth, boxHeight);
+    case Format::PNG: return decodePNG(bytes);
+    case Format::WebP: return decodeWebP(bytes);
+    case Format::Unknown: break;
   }
   return nullptr;
 }

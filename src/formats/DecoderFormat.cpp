@@ -1,0 +1,48 @@
+// Which decoder a picture needs, from the container scan's name for it.
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+
+#include "formats/ImageDecoder.h"
+#include "formats/containers/ContainerScan.h"
+
+namespace ImageDecoder {
+
+namespace {
+
+// Every other name the scan gives is a camera RAW format (DNG, CR2, NEF,
+// ARW, ..., ORF, RW2, RAF, CR3).
+constexpr std::array<std::pair<std::string_view, Format>, 10> kFormats{{
+    {"", Format::Unknown},
+    {"JPEG", Format::JPEG},
+    {"MP4", Format::Unknown},
+    {"MOV", Format::Unknown},
+    {"TIFF", Format::TIFF},
+    {"HEIC", Format::HEIF},
+    {"HEIF", Format::HEIF},
+    {"AVIF", Format::HEIF},
+    {"PNG", Format::PNG},
+    {"WebP", Format::WebP},
+}};
+
+lum::RangeReader readerOver(orb::ByteView bytes) {
+  return [bytes](std::uint64_t offset, std::uint64_t length) -> std::optional<std::vector<std::uint8_t>> {
+    if (offset > bytes.size()) return std::nullopt;
+    const auto piece = bytes.sub(offset, std::min<std::uint64_t>(length, bytes.size() - offset));
+    if (!piece) return std::nullopt;
+    return std::vector<std::uint8_t>(piece->data(), piece->data() + piece->size());
+  };
+}
+
+}  // namespace
+
+Format formatOf(orb::ByteView bytes) {
+  // A JPEG needs no scan of its segments to be told apart.
+  if (kindOf(bytes) == Kind::JPEG) return Format::JPEG;
+  const std::string name = lum::scanContainer(bytes.size(), readerOver(bytes)).name;
+  const auto known = std::find_if(kFormats.begin(), kFormats.end(), [&](const auto& row) { return row.first == name; });
+  return known != kFormats.end() ? known->second : Format::RAW;
+}
+
+}  // namespace ImageDecoder
