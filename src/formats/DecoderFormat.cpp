@@ -4,6 +4,7 @@
 #include <string_view>
 #include <utility>
 
+#include "formats/ByteViewReader.h"
 #include "formats/ImageDecoder.h"
 #include "formats/containers/ContainerScan.h"
 
@@ -26,21 +27,12 @@ constexpr std::array<std::pair<std::string_view, Format>, 10> kFormats{{
     {"WebP", Format::WebP},
 }};
 
-lum::RangeReader readerOver(orb::ByteView bytes) {
-  return [bytes](std::uint64_t offset, std::uint64_t length) -> std::optional<std::vector<std::uint8_t>> {
-    if (offset > bytes.size()) return std::nullopt;
-    const auto piece = bytes.sub(offset, std::min<std::uint64_t>(length, bytes.size() - offset));
-    if (!piece) return std::nullopt;
-    return std::vector<std::uint8_t>(piece->data(), piece->data() + piece->size());
-  };
-}
-
 }  // namespace
 
 Format formatOf(orb::ByteView bytes) {
   // A JPEG needs no scan of its segments to be told apart.
   if (kindOf(bytes) == Kind::JPEG) return Format::JPEG;
-  const std::string name = lum::scanContainer(bytes.size(), readerOver(bytes)).name;
+  const std::string name = lum::scanContainer(bytes.size(), lum::readerOver(bytes)).name;
   const auto known = std::find_if(kFormats.begin(), kFormats.end(), [&](const auto& row) { return row.first == name; });
   return known != kFormats.end() ? known->second : Format::RAW;
 }
