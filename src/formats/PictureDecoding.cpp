@@ -1,4 +1,5 @@
-// Which decoder a picture needs, from the container scan's name for it.
+// Decoding a picture by the decoder that the container scan's name for the
+// file calls for.
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -36,5 +37,20 @@ Format formatOf(orb::ByteView bytes) {
   const auto known = std::find_if(kFormats.begin(), kFormats.end(), [&](const auto& row) { return row.first == name; });
   return known != kFormats.end() ? known->second : Format::RAW;
 }
+
+std::shared_ptr<const lum::Bitmap> decodeForBox(orb::ByteView bytes, int boxWidth, int boxHeight) {
+  switch (formatOf(bytes)) {
+    case Format::JPEG: return decodeJPEG(bytes, boxWidth, boxHeight);
+    case Format::TIFF: return decodeTIFF(bytes);
+    case Format::RAW: return decodeRAW(bytes, boxWidth, boxHeight);
+    case Format::HEIF: return decodeHEIF(bytes, boxWidth, boxHeight);
+    case Format::PNG: return decodePNG(bytes);
+    case Format::WebP: return decodeWebP(bytes);
+    case Format::Unknown: break;
+  }
+  return nullptr;
+}
+
+std::shared_ptr<const lum::Bitmap> decodeFull(orb::ByteView bytes) { return decodeForBox(bytes, 0, 0); }
 
 }  // namespace ImageDecoder
