@@ -12,6 +12,7 @@
 #include <string>
 
 #include "core/ByteView.h"
+#include "formats/containers/ContainerTypes.h"
 #include "tools/Bitmap.h"
 
 namespace ImageDecoder {
@@ -52,6 +53,11 @@ std::shared_ptr<const lum::Bitmap> decodeTIFF(orb::ByteView bytes);
 // The camera's embedded preview; without one, and only for a box larger than
 // kRawDecodeBox (or a full-size decode), the RAW data at half size.
 std::shared_ptr<const lum::Bitmap> decodeRAW(orb::ByteView bytes, int boxWidth, int boxHeight);
+// Only the preview, read through `read` from a RAW file of fileSize bytes:
+// just the pieces libraw asks for (directories, the preview), never the
+// sensor data that makes up most of the file.
+std::shared_ptr<const lum::Bitmap> decodeRAWPreview(const lum::RangeReader& read, std::uint64_t fileSize,
+                                                    int boxWidth, int boxHeight);
 std::shared_ptr<const lum::Bitmap> decodeHEIF(orb::ByteView bytes, int boxWidth, int boxHeight);
 std::shared_ptr<const lum::Bitmap> decodePNG(orb::ByteView bytes);
 std::shared_ptr<const lum::Bitmap> decodeWebP(orb::ByteView bytes);

@@ -5,11 +5,14 @@
 // Decoding a 12-megapixel image costs some 40 ms of entropy decoding even at
 // an eighth of its size; its 160 x 120 thumbnail well under a millisecond.
 // Every other file (no thumbnail, one padded to another shape or too small,
-// a TIFF) gets the main image decoded and reduced.
+// a TIFF) gets the main image decoded and reduced. A camera RAW gives its
+// own preview, read from the file piece by piece: its sensor data, most of
+// a 25 MB file, is never read (libraw asks for some 25 KB).
 #include "formats/LumImageFile.h"
 
 #include <utility>
 
+#include "formats/FileRanges.h"
 #include "formats/ImageDecoder.h"
 #include "tools/Resizing.h"
 
@@ -86,12 +89,26 @@ std::shared_ptr<const lum::Bitmap> fromEmbeddedThumbnail(orb::ByteView bytes) {
   return result;
 }
 
+std::shared_ptr<const lum::Bitmap> fitted(std::shared_ptr<const lum::Bitmap> bitmap) {
+  return Resizing::resizedBitmapFromBitmap(std::move(bitmap), false, LumImageFile::kThumbnailBox,
+                                           LumImageFile::kThumbnailBox);
+}
+
+// The preview of the RAW file at url, read while it is the file stamped
+// `opened` (any file when none is given).
+std::shared_ptr<const lum::Bitmap> rawPreview(const std::filesystem::path& url,
+                                              const std::optional<lum::FileStamp>& opened) {
+  const auto file = lum::FileRanges::open(url, opened);
+  if (!file) return nullptr;
+  auto preview = ImageDecoder::decodeRAWPreview(file->reader(), file->size(), kBox, kBox);
+  return file->unchanged() ? fitted(std::move(preview)) : nullptr;
+}
+
 }  // namespace
 
 std::shared_ptr<const lum::Bitmap> LumImageFile::thumbnailOfBytes(orb::ByteView bytes) {
   if (auto embedded = fromEmbeddedThumbnail(bytes)) return embedded;
-  return Resizing::resizedBitmapFromBitmap(ImageDecoder::decodeForBox(bytes, kBox, kBox), false, kThumbnailBox,
-                                           kThumbnailBox);
+  return fitted(ImageDecoder::decodeForBox(bytes, kBox, kBox));
 }
 
 void LumImageFile::makeThumbnail() {
@@ -110,9 +127,13 @@ std::shared_ptr<const lum::Bitmap> LumImageFile::readThumbnail(const std::filesy
   std::shared_ptr<const lum::Bitmap> result;
   if (const auto head = read(kHeadBytes[1])) {
     result = fromEmbeddedThumbnail(head->bytes());
-    if (!result && head->holdsWholeFile()) result = thumbnailOfBytes(head->bytes());
-    if (!result && !head->holdsWholeFile())
+    if (!result && head->holdsWholeFile()) {
+      result = thumbnailOfBytes(head->bytes());
+    } else if (!result && ImageDecoder::formatOf(head->bytes()) == ImageDecoder::Format::RAW) {
+      result = rawPreview(url, stamp_);
+    } else if (!result) {
       if (const auto whole = read(lum::FileData::kWholeFile)) result = thumbnailOfBytes(whole->bytes());
+    }
   }
   return result ? result : errorImage();
 }

@@ -10,8 +10,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include "formats/ByteViewReader.h"
 #include "formats/ImageDecoder.h"
-#include "support/TestData.h"
+#include "formats/ImageFileTestSupport.h"
 
 namespace {
 
@@ -114,6 +115,31 @@ TEST(PictureDecoding, HeifThumbnailForSmallBoxes) {
   }
 }
 
+// A RAW file's list thumbnail is its preview, read piece by piece: of a RAF
+// padded to 4 MB, as its sensor data would fill it, only the directories
+// and the preview are read.
+TEST(PictureDecoding, RawThumbnailReadsOnlyThePreview) {
+  const auto dir = formatsDir();
+  if (!dir) GTEST_SKIP() << "format test files not found (set LUMIDATE_FORMATS_TESTDATA); skipped";
+  Bytes raf = lumtest::readFile(*dir / "fujifilm-finepix-s5pro-raf-stripped.raf");
+  raf.resize(4u << 20, 0x5A);
+  std::uint64_t asked = 0;
+  const lum::RangeReader counting = [&](std::uint64_t offset, std::uint64_t length) -> std::optional<Bytes> {
+    asked += length;
+    if (offset > raf.size()) return std::nullopt;
+    const auto end = raf.begin() + static_cast<std::ptrdiff_t>(std::min<std::uint64_t>(raf.size(), offset + length));
+    return Bytes(raf.begin() + static_cast<std::ptrdiff_t>(offset), end);
+  };
+  const auto preview = ImageDecoder::decodeRAWPreview(counting, raf.size(), 150, 150);
+  ASSERT_TRUE(preview);
+  EXPECT_EQ(std::pair(preview->width, preview->height), std::pair(160, 120));
+  EXPECT_LT(asked, 256u * 1024);
+  const lumtest::TempFile file(raf, "photo.raf");
+  const auto thumbnail = LumImageFile().readThumbnail(file.path());
+  ASSERT_TRUE(thumbnail);
+  EXPECT_EQ(std::pair(thumbnail->width, thumbnail->height), std::pair(150, 113));
+}
+
 // Every file that decodes, cut at several lengths and with garbage after
 // its first bytes: any answer but a crash or an inconsistent bitmap.
 TEST(PictureDecoding, CutAndGarbledFilesNeverCrash) {
@@ -131,6 +157,9 @@ TEST(PictureDecoding, CutAndGarbledFilesNeverCrash) {
           for (std::size_t i = 0; i < whole.size() - bytes.size(); ++i) bytes.push_back(static_cast<std::uint8_t>(i * 131));
         const auto bitmap = ImageDecoder::decodeForBox(viewOf(bytes), 150, 150);
         EXPECT_TRUE(!bitmap || bitmap->isConsistent());
+        if (expected.format != Format::RAW) continue;
+        const auto preview = ImageDecoder::decodeRAWPreview(lum::readerOver(viewOf(bytes)), bytes.size(), 150, 150);
+        EXPECT_TRUE(!preview || preview->isConsistent());
       }
     }
   }
