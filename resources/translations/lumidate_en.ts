@@ -2756,6 +2756,14 @@
         <source>Retrieve altitude value from the Geospatial Information Authority of Japan.</source>
         <translation>Retrieve altitude value from the Geospatial Information Authority of Japan.</translation>
     </message>
+    <message>
+        <source>This file cannot be edited:</source>
+        <translation>This file cannot be edited: %1.</translation>
+    </message>
+    <message>
+        <source>Videos are not edited yet.</source>
+        <translation>Videos are not edited yet.</translation>
+    </message>
 </context>
 <context>
     <name>MultiFileActions</name>

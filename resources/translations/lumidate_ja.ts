@@ -2756,6 +2756,14 @@
         <source>Retrieve altitude value from the Geospatial Information Authority of Japan.</source>
         <translation>国土地理院から標高値を取得します。</translation>
     </message>
+    <message>
+        <source>This file cannot be edited:</source>
+        <translation>このファイルは編集できません: %1。</translation>
+    </message>
+    <message>
+        <source>Videos are not edited yet.</source>
+        <translation>動画はまだ編集できません。</translation>
+    </message>
 </context>
 <context>
     <name>MultiFileActions</name>

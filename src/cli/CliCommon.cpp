@@ -24,7 +24,9 @@ void forEachInParallel(std::size_t count, const std::function<void(std::size_t)>
 }
 
 nlohmann::ordered_json errorJson(const LumError& error) {
-  return {{"domain", error.domain}, {"code", error.code}};
+  nlohmann::ordered_json json{{"domain", error.domain}, {"code", error.code}};
+  if (!error.reason.empty()) json["reason"] = error.reason;
+  return json;
 }
 
 void reportOpenFailure(const std::filesystem::path& path, const LumError& error) {

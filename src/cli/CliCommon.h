@@ -18,7 +18,8 @@ namespace cli {
 // when every call has returned. Each i is taken exactly once.
 void forEachInParallel(std::size_t count, const std::function<void(std::size_t)>& work);
 
-// {"domain": ..., "code": ...} for a file that could not be opened.
+// {"domain": ..., "code": ..., "reason": ...} for a file that could not be
+// opened (the reason only when there is one).
 nlohmann::ordered_json errorJson(const LumError& error);
 
 // "lumidate-cli: PATH: cannot open (LumErrorDomain -1, reason)" on stderr.

@@ -14,7 +14,8 @@ void printOverview(FILE* to) {
   QTextStream out(to);
   out << "Usage: lumidate-cli COMMAND [OPTIONS] PATH...\n\n"
          "Shows and corrects DateTimeOriginal, DateTimeDigitized and DateTime\n"
-         "in JPEG and TIFF files. Folders are searched at any depth.\n\n"
+         "in JPEG and TIFF files, camera RAW files, HEIC/HEIF/AVIF, PNG and WebP.\n"
+         "Folders are searched at any depth.\n\n"
          "Commands:\n";
   for (const cli::Command& c : cli::commands())
     out << "  " << QString::fromLatin1(c.name).leftJustified(10) << c.summary << '\n';

@@ -135,7 +135,9 @@ int runDateBatch(const DateBatchRequest& request) {
   std::vector<std::unique_ptr<LumFileItemDoc>> items;
   for (Opened& o : openAll(expansion.files)) {
     if (!o.file) {
-      err << prefix << q(o.path) << ": cannot open (" << q(o.error.domain) << ' ' << o.error.code << ")\n";
+      err << prefix << q(o.path) << ": cannot open (" << q(o.error.domain) << ' ' << o.error.code;
+      if (!o.error.reason.empty()) err << ", " << q(o.error.reason);
+      err << ")\n";
       status = 1;
       continue;
     }

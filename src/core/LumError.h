@@ -13,4 +13,8 @@ struct LumError {
 };
 
 inline constexpr const char* kLumErrorDomain = "LumErrorDomain";
+// Codes of kLumErrorDomain: -1 a format the program does not read, -2 a file
+// that cannot be read, -3 a format it knows but does not edit (a video, a
+// file cut off before its metadata), with the reason.
+inline constexpr int kLumErrorRefused = -3;
 inline constexpr const char* kOrbStringNumberErrorDomain = "OrbStringNumberErrorDomain";

@@ -27,8 +27,10 @@ std::vector<InPlaceWriter::BytePatch> patchesForTexts(const DateLocations& where
     // An item has a text only for a date its file has; the entry check is
     // kept anyway so that a broken invariant cannot write at a guessed place.
     if (!text || !offset || text->size() < kDateLength || !isAscii(*text)) continue;
-    patches.push_back({where.tiffHeaderLocation + *offset, text->substr(0, kDateLength)});
+    patches.push_back({where.tiffHeaderLocation + *offset, text->substr(0, kDateLength), std::nullopt});
+    for (const std::uint64_t copy : where.copies[t.index]) patches.push_back({copy, text->substr(0, kDateLength), std::nullopt});
   }
+  if (!patches.empty() && where.checksum) patches.push_back({where.checksum->at, {}, where.checksum});
   return patches;
 }
 
@@ -36,7 +38,11 @@ DateLocations locationsOf(const LumImageFile& file) {
   static constexpr LumDateField kFields[DateTargets::kCount] = {
       LumDateField::DateTimeOriginal, LumDateField::DateTimeDigitized, LumDateField::DateTime};
   DateLocations where;
-  for (const DateTargets::Target& t : DateTargets::kTargets) where.valueOffsets[t.index] = file.dateValueOffset(kFields[t.index]);
+  for (const DateTargets::Target& t : DateTargets::kTargets) {
+    where.valueOffsets[t.index] = file.dateValueOffset(kFields[t.index]);
+    where.copies[t.index] = file.dateCopies(kFields[t.index]);
+  }
+  where.checksum = file.exifChecksum();
   return where;
 }
 
@@ -69,7 +75,7 @@ std::vector<std::uint8_t> pMakeNewDateWithData(orb::ByteView data, const LumImag
 std::vector<std::uint8_t> applied(orb::ByteView data, const std::vector<InPlaceWriter::BytePatch>& patches) {
   std::vector<std::uint8_t> copy(data.data(), data.data() + data.size());
   for (const InPlaceWriter::BytePatch& p : patches) {
-    if (!data.contains(p.position, p.bytes.size())) continue;
+    if (p.checksum || !data.contains(p.position, p.bytes.size())) continue;
     std::copy(p.bytes.begin(), p.bytes.end(), copy.begin() + static_cast<std::ptrdiff_t>(p.position));
   }
   return copy;

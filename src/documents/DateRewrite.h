@@ -24,11 +24,18 @@ inline constexpr std::size_t kDateLength = 19;
 struct DateLocations {
   std::uint64_t tiffHeaderLocation = 0;
   std::array<std::optional<std::uint64_t>, DateTargets::kCount> valueOffsets{};
+  // Other entries stating the same date (IFD1, a preview's Exif): each gets
+  // the new text too. Absolute file positions.
+  std::array<std::vector<std::uint64_t>, DateTargets::kCount> copies{};
+  // A checksum over the dates' bytes (a PNG chunk's CRC), written anew with them.
+  std::optional<lum::ChecksumRange> checksum;
 };
 
 // The patches for the item texts: a text that is absent, shorter than 19
-// characters or not ASCII is skipped; a longer text gives its first 19.
-// Nothing at all when the file has none of the three entries.
+// characters or not ASCII is skipped; a longer text gives its first 19,
+// written at the date's entry and at each of its copies, followed by the
+// checksum patch when there is one. Nothing at all when the file has none
+// of the three entries.
 std::vector<InPlaceWriter::BytePatch> patchesForTexts(const DateLocations& where, const DateTargets::Texts& texts);
 
 // Where the file's three date entries keep their values (absolute file

@@ -4,7 +4,7 @@
 // A photo is irreplaceable, so the writer is deliberately narrow: it checks
 // that the file on disk is still the one that was opened (same size, same
 // modification time), refuses any position outside the file, writes one
-// contiguous run of bytes covering every change (the unchanged bytes between
+// run of bytes for each group of nearby changes (the unchanged bytes between
 // two changes are read from the file and written back as they were), and
 // flushes the file to disk, on its own or together with a batch of files
 // (BatchFlush.h). It never truncates, never creates and never replaces the
@@ -21,6 +21,7 @@
 #include <utility>
 
 #include "formats/FileData.h"
+#include "formats/containers/ContainerTypes.h"
 
 namespace InPlaceWriter {
 
@@ -32,10 +33,15 @@ using FileIdentity = lum::FileStamp;
 // (missing, not a regular file).
 std::optional<FileIdentity> identityOfFile(const std::filesystem::path& path);
 
-// Bytes to put at an absolute position of the file.
+// Bytes to put at an absolute position of the file. A checksum patch
+// instead writes, at checksum->at, the big-endian CRC-32 of the checksum's
+// range as the other patches leave it; the CRC stored there must be right
+// before the save, or nothing is written: a file whose checksum was already
+// wrong is not quietly repaired.
 struct BytePatch {
   std::uint64_t position = 0;
   std::string bytes;
+  std::optional<lum::ChecksumRange> checksum = std::nullopt;
 };
 
 // The system call that writes; tests replace it to make a write fail part way.
@@ -54,6 +60,8 @@ inline constexpr const char* kChangedOnDiskReason = "The file was changed by ano
 inline constexpr const char* kMissingReason = "The file no longer exists.";
 inline constexpr const char* kReadOnlyReason = "The file is read-only.";
 inline constexpr const char* kBeyondEndReason = "A date lies beyond the end of the file; the file was not changed.";
+inline constexpr const char* kChecksumWrongReason =
+    "The file's checksums were already wrong before this save; the file was not changed.";
 
 // Writes the patches into the file at path, provided it still has the
 // identity `opened`, and flushes the file. With no patches nothing is written

@@ -19,6 +19,7 @@ inline constexpr EnglishFormat kEnglishFormats[] = {
     {"The document has unsaved changes. Do you want to save the changes before closing?",
      "The document \"%1\" has unsaved changes. Do you want to save the changes before closing?"},
     {"Could not be opened.", "\"%1\" could not be opened."},
+    {"This file cannot be edited:", "This file cannot be edited: %1."},
     {"You are opening multiple files.", "You are opening %1 files."},
     {"Loading files", "Loading %1 files..."},
     {"%@ / %lu", "%1 / %2"},

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "documents/LumLocalized.h"
+#include "formats/containers/ContainerScan.h"
 
 namespace OpenFailureReport {
 
@@ -14,8 +15,19 @@ bool hasCode(const std::vector<LumErrorInfo>& failures, int code) {
   });
 }
 
+// Why a file of a known format is not opened, in the user's language where
+// the reason is one of the program's own words.
+QString refusalText(const std::string& reason) {
+  if (reason == lum::kVideoRefusal) return LumLocalized::text("Videos are not edited yet.");
+  return LumLocalized::format("This file cannot be edited:", QString::fromStdString(reason));
+}
+
 QString causeText(const std::vector<LumErrorInfo>& failures) {
-  if (hasCode(failures, -1)) return LumLocalized::text("It uses a file format that Lumidate does not recognize.");
+  const auto refused = std::find_if(failures.begin(), failures.end(), [](const LumErrorInfo& info) {
+    return info.error.domain == kLumErrorDomain && info.error.code == kLumErrorRefused;
+  });
+  if (failures.size() == 1 && refused != failures.end()) return refusalText(refused->error.reason);
+  if (hasCode(failures, -1) || refused != failures.end()) return LumLocalized::text("It uses a file format that Lumidate does not recognize.");
   if (hasCode(failures, -2)) return LumLocalized::text("An unknown cause.");
   return {};
 }

@@ -45,10 +45,11 @@ struct Descriptor {
   }
 };
 
-// Reads up to `expected` bytes of the open file from its start into a
+// Reads up to `expected` bytes of the open file from offset into a
 // buffer that is not zero-filled first; a file cut short while it is read
 // gives what was there. Answers 0 or the errno.
-int readStart(int fd, std::size_t expected, std::unique_ptr<std::uint8_t[]>* buffer, std::size_t* size) {
+int readAt(int fd, std::uint64_t offset, std::size_t expected, std::unique_ptr<std::uint8_t[]>* buffer,
+           std::size_t* size) {
   try {
     *buffer = std::make_unique_for_overwrite<std::uint8_t[]>(expected);
   } catch (const std::bad_alloc&) {
@@ -56,7 +57,7 @@ int readStart(int fd, std::size_t expected, std::unique_ptr<std::uint8_t[]>* buf
   }
   std::size_t done = 0;
   while (done < expected) {
-    const ssize_t n = ::pread(fd, buffer->get() + done, expected - done, static_cast<off_t>(done));
+    const ssize_t n = ::pread(fd, buffer->get() + done, expected - done, static_cast<off_t>(offset + done));
     if (n < 0 && errno == EINTR) continue;
     if (n < 0) return errno;
     if (n == 0) break;
@@ -90,8 +91,14 @@ std::shared_ptr<const FileData> FileData::readIfUnchanged(const std::filesystem:
   return read(path, &opened, length, failure);
 }
 
+std::shared_ptr<const FileData> FileData::readRangeIfUnchanged(const std::filesystem::path& path,
+                                                               const FileStamp& opened, std::uint64_t offset,
+                                                               std::size_t length, ReadFailure* failure) {
+  return read(path, &opened, length, failure, offset);
+}
+
 std::shared_ptr<const FileData> FileData::read(const std::filesystem::path& path, const FileStamp* opened,
-                                               std::size_t length, ReadFailure* failure) {
+                                               std::size_t length, ReadFailure* failure, std::uint64_t offset) {
   const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
   struct stat st {};
   const int openError = file.fd < 0 || ::fstat(file.fd, &st) != 0 ? errno : !S_ISREG(st.st_mode) ? EINVAL : 0;
@@ -101,8 +108,9 @@ std::shared_ptr<const FileData> FileData::read(const std::filesystem::path& path
     return nullptr;
   }
   auto data = std::make_shared<FileData>(Key{});
-  const std::size_t wanted = std::min(length, static_cast<std::size_t>(st.st_size));
-  if (const int error = readStart(file.fd, wanted, &data->buffer_, &data->size_)) {
+  const auto fileSize = static_cast<std::uint64_t>(st.st_size);
+  const std::size_t wanted = offset >= fileSize ? 0 : static_cast<std::size_t>(std::min<std::uint64_t>(length, fileSize - offset));
+  if (const int error = readAt(file.fd, offset, wanted, &data->buffer_, &data->size_)) {
     if (failure) *failure = failureFor(path, error);
     return nullptr;
   }

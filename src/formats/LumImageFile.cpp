@@ -8,6 +8,7 @@
 #include "datetime/DateAdditions.h"
 #include "datetime/ExifDateText.h"
 #include "formats/ImageDecoder.h"
+#include "formats/containers/ExifDateEntries.h"
 
 namespace {
 
@@ -128,8 +129,14 @@ std::unique_ptr<LumImageFile> LumImageFile::parse(const std::filesystem::path& u
     return expected ? lum::FileData::readIfUnchanged(url, *expected, length, &failure)
                     : lum::FileData::readHead(url, length, &failure);
   };
+  std::shared_ptr<const lum::FileData> first = read(kHeadBytes[0]);
+  // Other formats than JPEG and TIFF are told and opened from their bytes.
+  if (first && !first->empty() && ImageDecoder::kindOf(first->bytes()) != ImageDecoder::Kind::JPEG) {
+    ContainerOpening opened = openContainer(url, first, error, how);
+    if (opened.handled) return std::move(opened.file);
+  }
   for (const std::size_t length : kHeadBytes) {
-    auto data = read(length);
+    auto data = length == kHeadBytes[0] ? std::move(first) : read(length);
     if (!data || data->holdsWholeFile()) return fromWhole(std::move(data), failure, error, how);
     // Later reads must see the same file as this one.
     expected = data->stampAsOpened();
@@ -256,6 +263,20 @@ bool LumImageFile::takeDates(orb::ByteView data, std::uint64_t headerLocation, s
   return true;
 }
 
+void LumImageFile::takeContainerDates(const lum::ContainerDates& dates) {
+  std::array<std::optional<std::string>*, 3> originals{&dateTimeOriginal_, &dateTimeDigitized_, &dateTime_};
+  std::array<std::optional<std::string>*, 3> subSeconds{&subSecOriginal_, &subSecDigitized_, &subSec_};
+  for (const LumDateField field : kDateFields) {
+    const std::size_t i = indexOf(field);
+    const lum::DatePlaces& places = dates.dates[i];
+    *originals[i] = places.text ? validDate(*places.text) : std::nullopt;
+    *subSeconds[i] = dates.subSeconds[i];
+    if (holding_ != Holding::Kept) continue;
+    dateOffsets_[i] = places.offset;
+    dateCopies_[i] = places.copies;
+  }
+}
+
 void LumImageFile::setImageData(const std::shared_ptr<const lum::FileData>& data) {
   stamp_ = data ? data->stampAsOpened() : std::nullopt;
   if (!tiff_) return;
@@ -309,6 +330,10 @@ std::optional<std::string> LumImageFile::JFIFValue(std::string_view key) const {
 
 std::optional<std::uint64_t> LumImageFile::dateValueOffset(LumDateField field) const {
   return dateOffsets_[indexOf(field)];
+}
+
+const std::vector<std::uint64_t>& LumImageFile::dateCopies(LumDateField field) const {
+  return dateCopies_[indexOf(field)];
 }
 
 const std::optional<std::string>& LumImageFile::originalString(LumDateField field) const {

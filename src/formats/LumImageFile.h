@@ -1,12 +1,16 @@
 #pragma once
-// One opened photo file (JPEG with Exif, or TIFF): its JFIF fields, its
-// dates as they stood when it was opened and where their values lie, and the
-// file's identity at that moment. The full TIFF structure (an object per
-// entry, several KB a photo) is built only when asked for.
+// One opened photo file (JPEG with Exif, TIFF, or a format that keeps its
+// Exif inside another container: camera RAW, HEIC/HEIF/AVIF, CR3, PNG,
+// WebP): its JFIF fields, its dates as they stood when it was opened and
+// where their values lie, and the file's identity at that moment. The full
+// TIFF structure (an object per entry, several KB a photo) is built only
+// when asked for.
 //
-// A file is accepted by content, never by name: "II"/"MM" at offset 0 is a
-// TIFF, FF D8 a JPEG, and the decoder must accept the image's header. A JPEG
-// without Exif opens too; it simply has no TIFF structure and no dates.
+// A file is accepted by content, never by name: FF D8 is a JPEG, "II"/"MM"
+// a TIFF unless its first directory shows a camera's RAW, and for JPEG and
+// TIFF the decoder must accept the image's header; the other formats are
+// told by the container scan (LumImageFileContainer.cpp). A JPEG without
+// Exif opens too; it simply has no TIFF structure and no dates.
 //
 // The bytes the scan read are let go once it is done: everything kept is a
 // copy. Whatever needs the file later (a thumbnail, saving, reading it again
@@ -30,9 +34,15 @@
 #include "core/ByteView.h"
 #include "core/LumError.h"
 #include "formats/FileData.h"
+#include "formats/containers/ContainerTypes.h"
 #include "tools/Bitmap.h"
 
 class OrbTiff;
+namespace lum {
+class FileRangeReader;
+struct ContainerDates;
+struct ContainerScan;
+}  // namespace lum
 
 // A byte range in the file: location of a segment's marker and its length
 // (length field + 2, so the range covers marker, length and body).
@@ -67,7 +77,8 @@ class LumImageFile {
   // Opens the file. Answers nullptr on failure with *error (when given) in
   // "LumErrorDomain": -2 for an empty or unreadable file (the read failure is
   // logged (orb::logLine) as "LumImageFile - NSData error ..."), -1 for a file
-  // that is neither JPEG nor TIFF or that the decoder refuses.
+  // of no format read here or that the decoder refuses, kLumErrorRefused with
+  // the reason for a known format that is not edited (a video, a stub).
   //
   // A JPEG is parsed from the file's first kHeadBytes[0] bytes alone
   // whenever the scan provably found everything it looked for there, else
@@ -155,6 +166,13 @@ class LumImageFile {
   // header's location): where a new date is written. Nullopt when the
   // structure holds no such entry or its value is not out of line.
   std::optional<std::uint64_t> dateValueOffset(LumDateField field) const;
+  // Other entries of the file stating the same date text (IFD1's DateTime,
+  // an IFD0 DateTimeOriginal, a preview JPEG's Exif): absolute offsets where
+  // a new date is written too. Empty for JPEG and TIFF files.
+  const std::vector<std::uint64_t>& dateCopies(LumDateField field) const;
+  // The CRC that guards the Exif's bytes (a PNG's eXIf chunk), rewritten by
+  // a save that changes a date.
+  const std::optional<lum::ChecksumRange>& exifChecksum() const { return checksum_; }
 
   // The original strings as they stood at opening (dates: first 19
   // characters, kept only when valid; sub-seconds: as stored).
@@ -230,6 +248,20 @@ class LumImageFile {
   // (failure, or an empty file).
   static std::unique_ptr<LumImageFile> fromWhole(std::shared_ptr<const lum::FileData> data,
                                                  const lum::ReadFailure& failure, LumError* error, Opening how);
+  // Opens a file of another format than JPEG and TIFF (a RAW, HEIC, PNG,
+  // WebP...) from its head and the pieces its container scan asks for.
+  // Answers false when the bytes are JPEG or TIFF after all, or of no
+  // known format: the JPEG/TIFF opener takes them then.
+  struct ContainerOpening {
+    bool handled = false;
+    std::unique_ptr<LumImageFile> file;
+  };
+  static ContainerOpening openContainer(const std::filesystem::path& url,
+                                        const std::shared_ptr<const lum::FileData>& head, LumError* error,
+                                        Opening how);
+  void takeContainerDates(const lum::ContainerDates& dates);
+  // The TIFF structure of the scan's first main block.
+  static std::shared_ptr<OrbTiff> containerStructure(lum::FileRangeReader& reader, const lum::ContainerScan& scan);
   // Opens from the head of a JPEG when its scan provably found all it
   // needed there; nullptr otherwise.
   static std::unique_ptr<LumImageFile> fromHead(const std::shared_ptr<const lum::FileData>& head, Opening how);
@@ -256,6 +288,8 @@ class LumImageFile {
   std::uint64_t tiffHeaderLocation_ = 0;
   std::optional<JFIFDictionary> jfif_;
   std::array<std::optional<std::uint64_t>, 3> dateOffsets_;  // by LumDateField
+  std::array<std::vector<std::uint64_t>, 3> dateCopies_;      // by LumDateField
+  std::optional<lum::ChecksumRange> checksum_;
   std::optional<std::string> dateTimeOriginal_;
   std::optional<std::string> dateTimeDigitized_;
   std::optional<std::string> dateTime_;

@@ -76,8 +76,9 @@ TEST(CliInfo, JsonListsEveryFileWithItsRowsOrItsError) {
   ASSERT_EQ(out.size(), 3u);
   // Rows as group, title and value; headings are not rows.
   EXPECT_EQ(out[0].at("rows").at(0), (json{{"group", "JFIF"}, {"title", "JFIF Version"}, {"value", "1.1"}}));
-  EXPECT_EQ(out[1], (json{{"path", (*lumtest::realDataDir() / "broken-ifd0.tif").string()},
-                          {"error", {{"domain", "LumErrorDomain"}, {"code", -1}}}}));
+  EXPECT_EQ(out[1].at("path"), (*lumtest::realDataDir() / "broken-ifd0.tif").string());
+  EXPECT_EQ(out[1].at("error").at("code"), -1);
+  EXPECT_FALSE(out[1].at("error").value("reason", "").empty());
   const auto plain = runInfo(realFile("htc-desire-mm-gps.jpg"));
   EXPECT_EQ(plain.status, 0);
   EXPECT_NE(plain.out.find("\n  GPS\n"), std::string::npos) << plain.out;

@@ -9,6 +9,7 @@
 #include <system_error>
 
 #include "PhotoFiles.h"
+#include "core/NSDataOrbAdditions.h"
 
 using namespace InPlaceWriter;
 using doctest_support::readBytes;
@@ -105,6 +106,47 @@ TEST(InPlaceWriter, RefusesAFileThatIsNotTheOneOpenedAndLeavesItAlone) {
     EXPECT_EQ(result.result.reason, c.reason);
     EXPECT_FALSE(result.file.isOpen());
     EXPECT_EQ(held(file), before);
+  }
+}
+
+// Changes far apart are written apart, never the bytes between them; a CRC
+// over changed bytes is rewritten with them, unless it was wrong before.
+TEST(InPlaceWriter, WritesFarChangesApartAndKeepsAChecksumRight) {
+  std::vector<std::uint8_t> bytes(9000, 'x');
+  const lum::ChecksumRange crc{100, 30, 130};
+  const auto storeCrc = [&crc](std::vector<std::uint8_t>& b) {
+    const std::uint32_t value = NSDataOrbAdditions::CRC_32(std::span(b).subspan(crc.start, crc.length));
+    for (int i = 0; i < 4; ++i) b[crc.at + i] = static_cast<std::uint8_t>(value >> (24 - 8 * i));
+  };
+  storeCrc(bytes);
+  const BytePatch checksum{crc.at, {}, crc};
+  const struct { const char* name; bool crcRight; std::vector<BytePatch> patches; std::string reason;
+                 std::vector<std::pair<off_t, std::size_t>> calls; } cases[] = {
+      {"far apart", true, {{8000, kDate}, {10, kDate}}, "", {{10, 19}, {8000, 19}}},
+      {"under a checksum", true, {{105, kDate}, checksum}, "", {{100, 34}}},
+      {"under a wrong checksum", false, {{105, kDate}, checksum}, kChecksumWrongReason, {}},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.name);
+    TempFolder folder;
+    std::vector<std::uint8_t> before = bytes;
+    if (!c.crcRight) before[crc.at] ^= 1;
+    const fs::path file = folder / "photo.png";
+    doctest_support::writeBytes(file, before);
+    std::vector<std::pair<off_t, std::size_t>> calls;
+    const WriteResult result =
+        writePatches(file, *identityOfFile(file), c.patches, [&](int fd, const void* buf, std::size_t n, off_t off) {
+          calls.emplace_back(off, n);
+          return ::pwrite(fd, buf, n, off);
+        });
+    EXPECT_EQ(result.reason, c.reason);
+    EXPECT_EQ(calls, c.calls);
+    std::vector<std::uint8_t> want = before;
+    if (result.ok) {
+      for (const BytePatch& p : c.patches) std::copy(p.bytes.begin(), p.bytes.end(), want.begin() + p.position);
+      if (c.patches.back().checksum) storeCrc(want);
+    }
+    EXPECT_EQ(readBytes(file), want);
   }
 }
 

@@ -94,7 +94,7 @@ TEST(OpenPlan, DropsFilesAlreadyOpen) {
 
 TEST(OpenFailureReport, NamesTheFileOrListsThePaths) {
   const LumError unknownFormat{kLumErrorDomain, -1, {}}, unknownCause{kLumErrorDomain, -2, {}};
-  const LumError other{"OtherDomain", -1, {}};
+  const LumError other{"OtherDomain", -1, {}}, video{kLumErrorDomain, kLumErrorRefused, "videos are not edited yet"};
   const QString format = "It uses a file format that Lumidate does not recognize.", cause = "An unknown cause.";
   struct Case {
     std::vector<LumErrorInfo> failures;
@@ -105,6 +105,9 @@ TEST(OpenFailureReport, NamesTheFileOrListsThePaths) {
       {{{"/p/b.jpg", unknownFormat}}, "\"b.jpg\" could not be opened.", format, {}},
       {{{"/p/b.jpg", unknownCause}}, "\"b.jpg\" could not be opened.", cause, {}},
       {{{"/p/b.jpg", other}}, "\"b.jpg\" could not be opened.", "", {}},
+      {{{"/p/c.mov", video}}, "\"c.mov\" could not be opened.", "Videos are not edited yet.", {}},
+      {{{"/p/c.mov", video}, {"/p/a.jpg", unknownCause}}, "The files could not be opened.", format,
+       {"/p/c.mov", "/p/a.jpg"}},
       {{{"/p/a.jpg", unknownCause}, {"/p/b.jpg", unknownFormat}},
        "The files could not be opened.", format, {"/p/a.jpg", "/p/b.jpg"}},
       {{{"/p/a.jpg", other}, {"/p/b.jpg", unknownCause}}, "The files could not be opened.", cause,

@@ -15,6 +15,7 @@
 #include "core/NSDataOrbAdditions.h"
 #include "core/OrbTiff.h"
 #include "formats/containers/ContainerScan.h"
+#include "formats/containers/ExifDateEntries.h"
 #include "formats/containers/PngChunks.h"
 #include "support/TestData.h"
 
@@ -44,7 +45,8 @@ using FoundDate = std::pair<std::string, std::uint64_t>;  // text, file offset
 std::optional<FoundDate> dateIn(const Bytes& file, const std::vector<lum::TiffBlock>& blocks, std::uint16_t tag,
                                 std::uint32_t ifd) {
   for (const lum::TiffBlock& block : blocks) {
-    if (block.length < 8 || block.offset + block.length > file.size()) continue;
+    if (block.length < 8 || block.offset + block.length > file.size() || block.role == lum::BlockRole::EmbeddedPreview)
+      continue;
     Bytes bytes = slice(file, block.offset, block.length);
     bytes[2] = bytes[0] == 'I' ? 0x2A : 0x00;
     bytes[3] = bytes[0] == 'I' ? 0x00 : 0x2A;
@@ -83,6 +85,18 @@ void checkFile(const std::filesystem::path& path, const nlohmann::json& record) 
       EXPECT_EQ(*found, want) << d.name;
     }
   }
+  // Every other entry of a date is a copy written with it, except where the
+  // main entries lack the date and the copy stands in for it (RW2).
+  const lum::ContainerDates dates = lum::containerDates(file.size(), readerOver(file), scan.blocks);
+  std::set<std::uint64_t> copies, want;
+  for (const auto& e : record.at("date_offsets").at("secondary_entries")) want.insert(e.at("value_offset").get<std::uint64_t>());
+  for (std::size_t i = 0; i < std::size(kDates); ++i) {
+    copies.insert(dates.dates[i].copies.begin(), dates.dates[i].copies.end());
+    if (record.at("date_offsets").at(kDates[i].name).is_null() && dates.dates[i].offset) {
+      EXPECT_EQ(want.erase(*dates.dates[i].offset), 1u) << kDates[i].name;
+    }
+  }
+  EXPECT_EQ(copies, want);
   if (format.rfind("PNG", 0) == 0) {
     EXPECT_EQ(pngCrcsAreRight(file.size(), readerOver(file)), name.find("zero-crc") == std::string::npos);
   }
@@ -158,8 +172,9 @@ TEST(ContainerScan, FindsTheBlockWhereEachFormatKeepsIt) {
   const struct { const char* what; Bytes file; const char* name; std::uint64_t offset; } kCases[] = {
       {"PNG eXIf", png({pngChunk("IHDR", Bytes(13)), pngChunk("eXIf", kTiff), pngChunk("IEND", {})}), "PNG",
        8 + 25 + 8},
-      {"PNG eXIf after IDAT, with Exif prefix", png({pngChunk("IDAT", Bytes(3)), pngChunk("eXIf", kExifTiff)}), "PNG",
-       8 + 15 + 8 + 6},
+      {"PNG eXIf after IDAT, with Exif prefix",
+       png({pngChunk("IHDR", Bytes(13)), pngChunk("IDAT", Bytes(3)), pngChunk("eXIf", kExifTiff)}), "PNG",
+       8 + 25 + 15 + 8 + 6},
       {"WebP after an odd chunk", webp({{"VP8X", Bytes(10)}, {"ICCP", Bytes(3)}, {"EXIF", kTiff}}), "WebP",
        12 + 18 + 12 + 8},
       {"WebP with Exif prefix", webp({{"VP8X", Bytes(10)}, {"EXIF", kExifTiff}}), "WebP", 12 + 18 + 8 + 6},
@@ -177,15 +192,16 @@ TEST(ContainerScan, FindsTheBlockWhereEachFormatKeepsIt) {
 }
 
 TEST(ContainerScan, HostileInputsGiveNoBlock) {
-  const Bytes good = png({pngChunk("eXIf", kTiff), pngChunk("IEND", {})});
+  const Bytes good = png({pngChunk("IHDR", Bytes(13)), pngChunk("eXIf", kTiff), pngChunk("IEND", {})});
+  constexpr std::size_t kExifChunk = 8 + 25;
   const auto patched = [](Bytes bytes, std::size_t at, std::uint8_t value) { return (bytes[at] = value, bytes); };
   const Bytes raf = join(text("FUJIFILMCCD-RAW "), Bytes(84, 0));
   const struct { const char* what; Bytes file; } kCases[] = {
       {"empty", {}},
       {"one byte", {0x89}},
-      {"PNG cut inside the eXIf chunk", cut(good, 20)},
-      {"PNG chunk length past the end", patched(good, 11, 0x40)},
-      {"PNG chunk length 4 GB", patched(patched(good, 8, 0xFF), 9, 0xFF)},
+      {"PNG cut inside the eXIf chunk", cut(good, kExifChunk + 12)},
+      {"PNG chunk length past the end", patched(good, kExifChunk + 3, 0x40)},
+      {"PNG chunk length 4 GB", patched(patched(good, kExifChunk, 0xFF), kExifChunk + 1, 0xFF)},
       {"WebP chunk length past the end", patched(webp({{"EXIF", kTiff}}), 16, 0x7F)},
       {"WebP cut after its header", cut(webp({{"EXIF", kTiff}}), 14)},
       {"JPEG APP1 length past the end", patched(jpeg(kExifTiff), 10, 0x7F)},
@@ -196,6 +212,7 @@ TEST(ContainerScan, HostileInputsGiveNoBlock) {
   };
   for (const auto& c : kCases) EXPECT_TRUE(scanBytes(c.file).blocks.empty()) << c.what;
   EXPECT_EQ(scanBytes({}).refusal, "the file is empty");
+  EXPECT_TRUE(scanBytes(png({pngChunk("IDAT", Bytes(3))})).refusal) << "a PNG that does not begin with its header";
 }
 
 TEST(PngChunks, CrcsAreComputedAndChecked) {

@@ -133,7 +133,7 @@ TEST(LumImageFileOpen, RefusedFilesGiveTheirCodesAndDoNotSpoilTheNext) {
   const struct { const char* name; Bytes bytes; int code; } cases[] = {  // code 0: opens
       {"empty file", {}, -2},
       {"one byte", {0xFF}, -1},
-      {"PNG", png, -1},
+      {"PNG without its header chunk", png, kLumErrorRefused},
       {"FF D8 that does not decode", fakeJpeg, -1},
       {"TIFF header without an image", {'I', 'I', 42, 0, 8, 0, 0, 0, 0, 0}, -1},  // an IFD with no entries: no size
       {"JPEG with Exif but no image", JpegBuilder().exif(lumtest::exifTiff({}, {})).build(false), -1},

@@ -45,7 +45,7 @@ ContainerScan scanIsoBmff(std::uint64_t fileSize, const RangeReader& read) {
   scan.name = found.name;
   scan.blocks = std::move(found.blocks);
   if (found.isVideo)
-    scan.refusal = "videos are not edited yet";
+    scan.refusal = kVideoRefusal;
   else if (scan.blocks.empty() && found.problem)
     scan.refusal = *found.problem;
   else if (scan.name.empty())

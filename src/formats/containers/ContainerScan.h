@@ -11,6 +11,9 @@
 
 namespace lum {
 
+// The refusal of MP4 and QuickTime videos.
+inline constexpr const char* kVideoRefusal = "videos are not edited yet";
+
 struct ContainerScan {
   // As a user says it: "JPEG", "TIFF", "DNG", "CR2", "NEF", "ARW", ...,
   // "TIFF RAW", "ORF", "RW2", "RAF", "HEIC", "AVIF", "CR3", "PNG", "WebP",

@@ -100,7 +100,7 @@ void heifBlocks(const RangeReader& read, const Boxes& top, std::uint64_t fileSiz
     result.problem = "the Exif item holds no TIFF header";
     return;
   }
-  result.blocks.push_back({header, item.offset + item.length - header, "Exif item"});
+  result.blocks.push_back({header, item.offset + item.length - header, "Exif item", BlockRole::Main, std::nullopt});
 }
 
 // moov -> uuid (Canon metadata) -> CMT1 (IFD0) and CMT2 (Exif IFD).
@@ -122,7 +122,8 @@ void canonBlocks(const RangeReader& read, const Boxes& top, Result& result) {
   for (const std::string_view type : {"CMT1", "CMT2"}) {
     const auto box = firstOfType(inUuid, type);
     if (box && box->end - box->payload >= 8 && tiffHeaderAt(read, box->payload))
-      result.blocks.push_back({box->payload, box->end - box->payload, std::string(type) + " box"});
+      result.blocks.push_back({box->payload, box->end - box->payload, std::string(type) + " box",
+                               type == "CMT2" ? BlockRole::ExifIFDFirst : BlockRole::Main, std::nullopt});
   }
   if (result.blocks.empty()) result.problem = "the Canon metadata box holds no TIFF block";
 }

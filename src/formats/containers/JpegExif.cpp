@@ -24,7 +24,7 @@ std::optional<TiffBlock> exifBlock(const RangeReader& read, std::uint64_t end, s
   if (!exif || *exif != 0x45786966u || !zeros || *zeros != 0) return std::nullopt;  // "Exif\0\0"
   const auto tiff = view.sub(6, 4);
   if (!tiff || !startsWithTiffHeader(*tiff)) return std::nullopt;
-  return TiffBlock{segment + 10, std::uint64_t{lengthField} - 8, where};
+  return TiffBlock{segment + 10, std::uint64_t{lengthField} - 8, where, BlockRole::Main, std::nullopt};
 }
 
 }  // namespace

@@ -11,6 +11,7 @@ namespace {
 constexpr std::uint64_t kSignatureLength = 8;
 constexpr std::uint32_t kEXIF = 0x65584966u;  // "eXIf"
 constexpr std::uint32_t kIEND = 0x49454E44u;
+constexpr std::uint32_t kIHDR = 0x49484452u;
 constexpr int kMaxChunks = 1 << 20;
 
 struct Chunk {
@@ -46,7 +47,12 @@ std::optional<TiffBlock> exifChunkBlock(const RangeReader& read, std::uint64_t f
     skip = 6;  // "Exif\0\0" as in a JPEG segment
   const auto tiff = view.sub(skip, 4);
   if (!tiff || !startsWithTiffHeader(*tiff) || chunk.length < skip + 8) return std::nullopt;
-  return TiffBlock{chunk.dataOffset() + skip, chunk.length - skip, "eXIf chunk"};
+  const ChecksumRange crc{chunk.offset + 4, 4 + std::uint64_t{chunk.length}, chunk.dataOffset() + chunk.length};
+  return TiffBlock{chunk.dataOffset() + skip, chunk.length - skip, "eXIf chunk", BlockRole::Main, crc};
+}
+
+bool startsWithHeader(std::uint64_t fileSize, const RangeReader& read) {
+  return viewOf(readClipped(read, fileSize, kSignatureLength + 4, 4)).u32(0) == std::optional<std::uint32_t>(kIHDR);
 }
 
 }  // namespace
@@ -59,6 +65,11 @@ bool looksLikePng(orb::ByteView head) {
 ContainerScan scanPng(std::uint64_t fileSize, const RangeReader& read) {
   ContainerScan scan;
   scan.name = "PNG";
+  // Every PNG begins with its header chunk; bytes that do not are no image.
+  if (!startsWithHeader(fileSize, read)) {
+    scan.refusal = "the file's PNG chunks are damaged: it does not begin with its image header";
+    return scan;
+  }
   walkChunks(fileSize, read, [&](const Chunk& chunk) {
     if (chunk.type != kEXIF) return true;
     if (auto block = exifChunkBlock(read, fileSize, chunk)) scan.blocks.push_back(*block);

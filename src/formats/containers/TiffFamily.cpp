@@ -7,11 +7,14 @@
 #include <vector>
 
 #include "formats/containers/ContainerRead.h"
+#include "formats/containers/JpegExif.h"
 
 namespace lum::containers {
 namespace {
 
 constexpr std::uint16_t kNewSubfileType = 0x00FE, kMake = 0x010F, kSubIFDs = 0x014A, kDNGVersion = 0xC612;
+// A Panasonic RW2's full-size preview JPEG, which carries a whole Exif of its own.
+constexpr std::uint16_t kJpgFromRaw = 0x002E;
 constexpr std::uint32_t kMaxEntries = 1000;
 
 // What the first directory tells about the kind of file.
@@ -21,6 +24,7 @@ struct FirstDirectory {
   bool subIFDs = false;
   bool reducedImage = false;  // NewSubfileType 1: a preview first, the RAW data elsewhere
   std::string make;
+  std::optional<std::pair<std::uint32_t, std::uint32_t>> previewJpeg;  // offset, length
 };
 
 std::string makeText(const RangeReader& read, std::uint64_t fileSize, orb::ByteView entry, orb::ByteOrder order) {
@@ -56,6 +60,11 @@ FirstDirectory readFirstDirectory(std::uint64_t fileSize, const RangeReader& rea
     if (*tag == kSubIFDs) dir.subIFDs = true;
     if (*tag == kNewSubfileType) dir.reducedImage = entry->u32(8, order) == std::optional<std::uint32_t>(1);
     if (*tag == kMake) dir.make = makeText(read, fileSize, *entry, order);
+    if (*tag == kJpgFromRaw) {
+      const auto length = entry->u32(4, order);
+      const auto offset = entry->u32(8, order);
+      if (length && offset) dir.previewJpeg = std::pair{*offset, *length};
+    }
   }
   return dir;
 }
@@ -123,7 +132,13 @@ ContainerScan scanTiffFamily(std::uint64_t fileSize, const RangeReader& read, co
                    " bytes and ends before its first directory is complete: its image and dates are missing";
     return scan;
   }
-  scan.blocks.push_back(TiffBlock{0, fileSize, "TIFF header at 0"});
+  scan.blocks.push_back(TiffBlock{0, fileSize, "TIFF header at 0", BlockRole::Main, std::nullopt});
+  if (headerName == "RW2" && dir.previewJpeg)
+    if (auto preview = locateJpegExif(fileSize, read, dir.previewJpeg->first, dir.previewJpeg->second,
+                                      "embedded preview JPEG's APP1 segment")) {
+      preview->role = BlockRole::EmbeddedPreview;
+      scan.blocks.push_back(*preview);
+    }
   return scan;
 }
 

@@ -19,7 +19,7 @@ std::optional<TiffBlock> exifChunkBlock(const RangeReader& read, std::uint64_t e
     skip = 6;  // "Exif\0\0", as some writers put it first
   const auto tiff = view.sub(skip, 4);
   if (!tiff || !startsWithTiffHeader(*tiff) || length < skip + 8) return std::nullopt;
-  return TiffBlock{data + skip, length - skip, "EXIF chunk"};
+  return TiffBlock{data + skip, length - skip, "EXIF chunk", BlockRole::Main, std::nullopt};
 }
 
 }  // namespace
