@@ -12,7 +12,7 @@
 
 #include <utility>
 
-#include "formats/FileRanges.h"
+#include "formats/FileRangeReader.h"
 #include "formats/ImageDecoder.h"
 #include "tools/Resizing.h"
 
@@ -94,14 +94,13 @@ std::shared_ptr<const lum::Bitmap> fitted(std::shared_ptr<const lum::Bitmap> bit
                                            LumImageFile::kThumbnailBox);
 }
 
-// The preview of the RAW file at url, read while it is the file stamped
-// `opened` (any file when none is given).
+// The preview of the RAW file at url whose head was read, read further only
+// while it is still the file that head came from.
 std::shared_ptr<const lum::Bitmap> rawPreview(const std::filesystem::path& url,
-                                              const std::optional<lum::FileStamp>& opened) {
-  const auto file = lum::FileRanges::open(url, opened);
-  if (!file) return nullptr;
-  auto preview = ImageDecoder::decodeRAWPreview(file->reader(), file->size(), kBox, kBox);
-  return file->unchanged() ? fitted(std::move(preview)) : nullptr;
+                                              std::shared_ptr<const lum::FileData> head) {
+  lum::FileRangeReader file(url, std::move(head));
+  auto preview = ImageDecoder::decodeRAWPreview(file.reader(), file.fileSize(), kBox, kBox);
+  return file.failed() ? nullptr : fitted(std::move(preview));
 }
 
 }  // namespace
@@ -120,7 +119,7 @@ std::shared_ptr<const lum::Bitmap> LumImageFile::readThumbnail(const std::filesy
   // Read now, and only while the file is still the one opened: another
   // program may have changed it since, and this thumbnail must show what the
   // dates belong to. A camera's thumbnail lies in the file's first bytes;
-  // only without one is the whole file read.
+  // without one a RAW's preview is read piece by piece, any other file whole.
   const auto read = [&](std::size_t length) {
     return stamp_ ? lum::FileData::readIfUnchanged(url, *stamp_, length) : lum::FileData::readHead(url, length);
   };
@@ -130,7 +129,7 @@ std::shared_ptr<const lum::Bitmap> LumImageFile::readThumbnail(const std::filesy
     if (!result && head->holdsWholeFile()) {
       result = thumbnailOfBytes(head->bytes());
     } else if (!result && ImageDecoder::formatOf(head->bytes()) == ImageDecoder::Format::RAW) {
-      result = rawPreview(url, stamp_);
+      result = rawPreview(url, head);
     } else if (!result) {
       if (const auto whole = read(lum::FileData::kWholeFile)) result = thumbnailOfBytes(whole->bytes());
     }
