@@ -48,9 +48,9 @@ namespace {
 
 constexpr int kWaitMs = 20000;
 constexpr int kPictures = 23;
-// From the folder of other formats: a RAW with its camera's preview, a HEIF
-// with a thumbnail image, a PNG.
-constexpr const char* kOtherFormats[] = {"fujifilm-finepix-s5pro-raf-stripped.raf", "canon-eos-r5-hif.HIF",
+// From the folder of other formats: a RAW with its camera's preview, a HEIC
+// of tiles, a PNG whose Exif is only a text chunk (no dates to edit).
+constexpr const char* kOtherFormats[] = {"fujifilm-finepix-s5pro-raf-stripped.raf", "apple-iphone11pro-heic.HEIC",
                                          "png-rawprofile-text-only-nikon-d70.png"};
 
 // The program's dialogs, except that a handed-over folder opens in one
@@ -203,7 +203,7 @@ void shootOtherFormats(DocumentController& controller, Screenshots::Session& ses
   controller.openFiles({folder}, true);
   auto* window = openedWindow<MultiFileWindow>(controller, "the window of other formats");
   if (!window) return;
-  window->resize(1000, 420);
+  window->resize(1000, 320);
   waitFor([&] { return thumbnailsShown(*window); }, "the thumbnails of other formats");
   session.shoot(QStringLiteral("multi-other-formats"), *window);
 }
