@@ -212,10 +212,13 @@ bool LumImageFile::scan(orb::ByteView data, std::uint64_t fileSize, LumError* er
   switch (ImageDecoder::kindOf(data)) {
     case ImageDecoder::Kind::TIFF:
       headerLocation = 0;
+      containerName_ = "TIFF";
       break;
     case ImageDecoder::Kind::JPEG: {
       std::uint64_t location = 2;
       if (pSearchJPEG(data, &location, fileSize)) headerLocation = location;
+      containerName_ = "JPEG";
+      if (headerLocation) exifPlace_ = "APP1 segment";
       break;
     }
     case ImageDecoder::Kind::Unknown:
@@ -297,9 +300,25 @@ std::shared_ptr<OrbTiff> LumImageFile::tiff() const {
   tiffRead_ = true;
   // Read and parsed as the open did, so bounded the same way, and only from
   // the file that was opened: one changed since gives no structure at all.
-  if (const auto path = pathToRead())
-    if (auto again = parse(*path, *stamp_, nullptr, {Holding::Kept, Build::Structure})) tiff_ = std::move(again->tiff_);
+  if (const auto path = pathToRead()) tiff_ = readTiff(*path, *stamp_);
   return tiff_;
+}
+
+std::shared_ptr<OrbTiff> LumImageFile::readTiff(const std::filesystem::path& path, const lum::FileStamp& opened) {
+  auto again = parse(path, opened, nullptr, {Holding::Kept, Build::Structure});
+  return again ? std::move(again->tiff_) : nullptr;
+}
+
+bool LumImageFile::tiffPending() const {
+  std::lock_guard lock(tiffMutex_);
+  return !tiff_ && !tiffRead_ && holding_ == Holding::Kept && stamp_;
+}
+
+void LumImageFile::adoptTiff(std::shared_ptr<OrbTiff> tiff) const {
+  std::lock_guard lock(tiffMutex_);
+  if (tiff_ || tiffRead_) return;
+  tiff_ = std::move(tiff);
+  tiffRead_ = true;
 }
 
 void LumImageFile::setTiff(std::shared_ptr<OrbTiff> tiff) {

@@ -161,6 +161,22 @@ class LumImageFile {
   // for later calls. Safe to call from any thread.
   std::shared_ptr<OrbTiff> tiff() const;
   void setTiff(std::shared_ptr<OrbTiff> tiff);
+  // True while tiff() would still have to read the file.
+  bool tiffPending() const;
+  // True for a file whose structure lies beyond its head, in another
+  // container than a JPEG (a RAW is read whole): a thread that must not
+  // wait on the disk reads it elsewhere with readTiff() and hands the result
+  // over with adoptTiff().
+  bool structureLiesBeyondHead() const { return !containerName_.empty() && containerName_ != "JPEG" && containerName_ != "TIFF"; }
+  // The structure tiff() would read from the file at path, only while it is
+  // still the one stamped `opened`; touches no image file, so any thread may
+  // call it.
+  static std::shared_ptr<OrbTiff> readTiff(const std::filesystem::path& path, const lum::FileStamp& opened);
+  // Takes a structure readTiff() gave, unless tiff() has answered already.
+  void adoptTiff(std::shared_ptr<OrbTiff> tiff) const;
+  // The path the structure is read again from: the owner's, else the one
+  // the file was opened at.
+  std::optional<std::filesystem::path> pathToRead() const;
 
   // Absolute file offset of a date entry's value (value offset + the TIFF
   // header's location): where a new date is written. Nullopt when the
@@ -276,10 +292,6 @@ class LumImageFile {
   // what the TIFF structure would.
   bool takeDates(orb::ByteView data, std::uint64_t headerLocation, std::uint64_t fileSize,
                  std::vector<std::string>* consoleLines);
-  // The path the structure is read again from: the owner's, else the one
-  // the file was opened at.
-  std::optional<std::filesystem::path> pathToRead() const;
-
   std::optional<lum::FileStamp> stamp_;
   std::string containerName_;
   std::string exifPlace_;

@@ -12,12 +12,15 @@
 
 #include <filesystem>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
+#include "formats/FileData.h"
 #include "formats/inspector/LumInfoDataSource.h"
 
 class LumImageFile;
+class OrbTiff;
 
 class InfoFollower {
  public:
@@ -36,6 +39,19 @@ class InfoFollower {
   // A window with these files goes away: shows nothing if one of them is
   // shown. True when the rows were emptied.
   bool letGoOf(const std::vector<std::filesystem::path>& files, const LumImageFile* selected);
+
+  // The rows are built without waiting for a structure that lies beyond the
+  // file's head; this names the file to read it from, when the shown file
+  // still needs it.
+  struct StructureRead {
+    const LumImageFile* file;
+    std::filesystem::path path;
+    lum::FileStamp opened;
+  };
+  std::optional<StructureRead> structureToRead() const;
+  // The structure read for `read` arrived: the shown file takes it when it
+  // is still the one shown. True when the rows were rebuilt.
+  bool structureArrived(const StructureRead& read, std::shared_ptr<OrbTiff> tiff);
 
  private:
   bool saved(const LumImageFile* file);

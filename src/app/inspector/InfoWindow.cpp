@@ -2,12 +2,15 @@
 
 #include <QAction>
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QEvent>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QMenuBar>
+#include <QPointer>
 #include <QStyledItemDelegate>
 #include <QTableView>
+#include <QThreadPool>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -18,6 +21,7 @@
 #include "app/preferences/Settings.h"
 #include "documents/LumLocalized.h"
 #include "documents/LumNotificationCenter.h"
+#include "formats/LumImageFile.h"
 
 namespace {
 
@@ -105,6 +109,22 @@ void InfoWindow::reload(bool rebuilt) {
   table_->resizeColumnToContents(InfoTableModel::TagName);
   table_->setColumnWidth(InfoTableModel::TagName,
                          table_->columnWidth(InfoTableModel::TagName) + table_->fontMetrics().averageCharWidth() * 2);
+  readStructureInBackground();
+}
+
+void InfoWindow::readStructureInBackground() {
+  const auto read = follower_.structureToRead();
+  if (!read) return;
+  QPointer<InfoWindow> self(this);
+  QThreadPool::globalInstance()->start([self, read = *read] {
+    std::shared_ptr<OrbTiff> tiff = LumImageFile::readTiff(read.path, read.opened);
+    // Answered through the application object: the window may be gone.
+    QMetaObject::invokeMethod(
+        qApp, [self, read, tiff = std::move(tiff)]() mutable {
+          if (self) self->reload(self->follower_.structureArrived(read, std::move(tiff)));
+        },
+        Qt::QueuedConnection);
+  });
 }
 
 void InfoWindow::copySelection() {

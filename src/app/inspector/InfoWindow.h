@@ -52,6 +52,9 @@ class InfoWindow : public QWidget {
  private:
   void notified(const QString& name, const void* object);
   void reload(bool rebuilt);
+  // Reads the shown file's structure on a pool thread when it lies beyond
+  // the file's head; the rows are rebuilt when it arrives.
+  void readStructureInBackground();
   void saveGeometryToSettings();
 
   Settings* settings_;

@@ -89,7 +89,8 @@ void LumInfoDataSource::pMakeIFDDataSources() {
                                    imageFile_->originalDateTimeDigitizedString(),
                                    imageFile_->originalDateTimeString()};
   const auto& jfif = imageFile_->JFIF();
-  rows_ = rowsFor(imageFile_->tiff().get(), jfif ? &*jfif : nullptr, dates);
+  const bool read = readsLargeStructures_ || !imageFile_->structureLiesBeyondHead() || !imageFile_->tiffPending();
+  rows_ = rowsFor(read ? imageFile_->tiff().get() : nullptr, jfif ? &*jfif : nullptr, dates);
 }
 
 std::string LumInfoDataSource::objectValue(std::string_view columnIdentifier, std::size_t row) const {

@@ -47,6 +47,11 @@ class LumInfoDataSource {
 
   // Rebuilds the rows from the shown file's current state.
   void pMakeIFDDataSources();
+  // Whether building the rows may read a structure that lies beyond the
+  // file's head (a RAW read whole); a table on the GUI thread says no, has
+  // the structure read elsewhere (LumImageFile::readTiff) and rebuilds once
+  // it is adopted.
+  void setReadsLargeStructures(bool reads) { readsLargeStructures_ = reads; }
   const std::vector<LumInfoRow>& IFDDataSources() const { return rows_; }
 
   std::size_t numberOfRows() const { return rows_.size(); }
@@ -84,6 +89,7 @@ class LumInfoDataSource {
   static const OrbIFDEntry& byteOrderEntry(std::int8_t endian);
 
  private:
+  bool readsLargeStructures_ = true;
   const LumImageFile* imageFile_ = nullptr;
   std::vector<LumInfoRow> rows_;
 };

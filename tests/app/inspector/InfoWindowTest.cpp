@@ -87,6 +87,20 @@ class InfoWindowTest : public QObject {
     QCOMPARE(originalShown(info), QString::fromLatin1(kB));
   }
 
+  // A RAW's structure is read whole, so it is read on a pool thread; the
+  // rows gain its entries when it arrives.
+  void aRawsStructureArrivesFromAPoolThread() {
+    const std::filesystem::path nef = std::filesystem::path(LUMIDATE_FORMATS_TESTDATA) / "nikon-d70-nef-stripped.nef";
+    if (!std::filesystem::exists(nef)) QSKIP("format test files not found; skipped");
+    Shell s;
+    std::filesystem::copy_file(nef, s.folder / "raw.nef");
+    auto window = s.openSingle(s.folder / "raw.nef");
+    QVERIFY(window);
+    QVERIFY(window->selectedImageFile()->tiffPending());
+    post(kLumDocumentDidChangeNotification, window->documentObject());
+    QTRY_COMPARE(originalShown(s.inspector()), QStringLiteral("2004:06:09 16:02:35"));
+  }
+
   void anEditShowsOnlyOnceSaved() {
     Shell s;
     auto window = s.open("a.jpg", {kA, kA, kA});

@@ -8,6 +8,11 @@
 #include <QTimer>
 #include <QUrl>
 
+#include <fstream>
+
+#include <nlohmann/json.hpp>
+
+#include "app/multi/FileTableModel.h"
 #include "app/startup/OpenQueue.h"
 #include "app/support/AppFixture.h"
 
@@ -46,6 +51,42 @@ class OpeningTest : public QObject {
     QCOMPARE(windowsAtAlert, 1u);
     // The alert's texts for each kind of failure are the open failure report's suite.
     QCOMPARE(f.prompts.alerts.front().message, QStringLiteral("\"e.jpg\" could not be opened."));
+  }
+
+  // The real files of other formats open from their folder into one window
+  // showing the dates exiftool reads; the videos and the cut-off stub are
+  // named in the alert, the videos' reason given.
+  void otherFormatsShowTheirDatesAndNameTheRefused() {
+    const fs::path source = LUMIDATE_FORMATS_TESTDATA;
+    std::ifstream in(source / "expected.json");
+    if (!in) QSKIP("format test files not found; conformance test skipped");
+    AppFixture f;
+    const nlohmann::json records = nlohmann::json::parse(in);
+    for (const auto& record : records) {
+      const std::string name = record.at("file");
+      fs::copy_file(source / name, f.folder / name);
+    }
+    f.prompts.nextOpenRequest = Prompts::OpenRequest{{f.folder.path()}, false};
+    QVERIFY(f.waitForOpening([&] { f.controller.openDocument(); }));
+    QCOMPARE(f.prompts.alerts.size(), 1u);
+    QCOMPARE(f.prompts.alerts.front().paths.size(), 3);
+    auto* window = dynamic_cast<MultiFileWindow*>(f.controller.windows().front());
+    QVERIFY(window);
+    QCOMPARE(window->document().rowCount(), static_cast<int>(records.size()) - 3);
+    const struct { const char* name; int column; } kDates[] = {{"DateTimeOriginal", FileTableModel::DateTimeOriginal},
+        {"CreateDate", FileTableModel::DateTimeDigitized}, {"ModifyDate", FileTableModel::DateTime}};
+    for (const auto& record : records) {
+      const auto row = window->document().rowOf(window->document().itemForURL(f.folder / record.at("file").get<std::string>()));
+      if (!row) continue;
+      for (const auto& d : kDates) {
+        const auto& offsets = record.at("date_offsets");
+        bool inEntry = !offsets.at(d.name).is_null();
+        for (const auto& copy : offsets.at("secondary_entries")) inEntry |= copy.at("name") == d.name;
+        const auto& value = record.at("exiftool").at(d.name);
+        const QString want = inEntry && value.is_string() ? QString::fromStdString(value.get<std::string>()) : QString();
+        QCOMPARE(window->model().index(*row, d.column).data().toString(), want);
+      }
+    }
   }
 
   // A drop always asks how to open, counting only the files not open yet.
