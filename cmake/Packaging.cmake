@@ -100,8 +100,9 @@ set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n")
 # The Japanese texts need a font with Japanese characters.
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "fonts-ipafont-gothic")
 # One string: CPack would join separate arguments with semicolons.
-set(CPACK_DEBIAN_PACKAGE_DESCRIPTION [=[Lumidate shows the dates a camera stores in JPEG (Exif) and TIFF photos
-(when the picture was taken, digitized and last changed) and corrects them:
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION [=[Lumidate shows the dates a camera stores in photos and corrects them
+(when the picture was taken, digitized and last changed; in JPEG, TIFF,
+camera RAW, HEIC/HEIF/AVIF, CR3, PNG and WebP files):
 type a new date, set one time on many files, or shift many files by years,
 months, days, hours, minutes and seconds. Saving rewrites only the date
 texts inside each file. It also inspects TIFF, Exif, GPS, JFIF, Photoshop
