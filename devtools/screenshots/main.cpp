@@ -203,7 +203,7 @@ void shootOtherFormats(DocumentController& controller, Screenshots::Session& ses
   controller.openFiles({folder}, true);
   auto* window = openedWindow<MultiFileWindow>(controller, "the window of other formats");
   if (!window) return;
-  window->resize(1000, 320);
+  window->resize(1000, 480);
   waitFor([&] { return thumbnailsShown(*window); }, "the thumbnails of other formats");
   session.shoot(QStringLiteral("multi-other-formats"), *window);
 }
