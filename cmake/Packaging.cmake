@@ -89,6 +89,10 @@ set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins")
+# Debian 12's libheif1 links its HEVC and AV1 decoders (libde265, dav1d,
+# aom) itself, so the libheif1 that dpkg-shlibdeps finds brings them. A
+# libheif that loads decoder plugins (1.16 and later) would need
+# libheif-plugin-libde265 and libheif-plugin-dav1d named here by hand.
 # Qt's own dialog buttons in other languages. The Wayland plugin is left
 # out on purpose: the windows are made and tested on X11, which a Wayland
 # desktop provides through XWayland.
