@@ -89,6 +89,10 @@ set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-qpa-plugins")
+# Debian 12's libheif1 links its HEVC and AV1 decoders (libde265, dav1d,
+# aom) itself, so the libheif1 that dpkg-shlibdeps finds brings them. A
+# libheif that loads decoder plugins (1.16 and later) would need
+# libheif-plugin-libde265 and libheif-plugin-dav1d named here by hand.
 # Qt's own dialog buttons in other languages. The Wayland plugin is left
 # out on purpose: the windows are made and tested on X11, which a Wayland
 # desktop provides through XWayland.
@@ -96,8 +100,9 @@ set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n")
 # The Japanese texts need a font with Japanese characters.
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS "fonts-ipafont-gothic")
 # One string: CPack would join separate arguments with semicolons.
-set(CPACK_DEBIAN_PACKAGE_DESCRIPTION [=[Lumidate shows the dates a camera stores in JPEG (Exif) and TIFF photos
-(when the picture was taken, digitized and last changed) and corrects them:
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION [=[Lumidate shows the dates a camera stores in photos and corrects them
+(when the picture was taken, digitized and last changed; in JPEG, TIFF,
+camera RAW, HEIC/HEIF/AVIF, CR3, PNG and WebP files):
 type a new date, set one time on many files, or shift many files by years,
 months, days, hours, minutes and seconds. Saving rewrites only the date
 texts inside each file. It also inspects TIFF, Exif, GPS, JFIF, Photoshop

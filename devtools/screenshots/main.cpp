@@ -1,5 +1,7 @@
-// lumidate-screenshots SAMPLES OUTPUT_DIR: pictures of the real windows in
-// their main states, made on the offscreen platform. The files are opened
+// lumidate-screenshots SAMPLES OUTPUT_DIR [FORMATS]: pictures of the real
+// windows in their main states, made on the offscreen platform. FORMATS, a
+// folder of photo files of other formats, adds the multi-file window
+// listing a camera RAW, a HEIC and a PNG. The files are opened
 // through the document controller as the program does; alerts come from
 // the program's own dialogs and are pictured the moment they show.
 #include <QAbstractButton>
@@ -46,6 +48,10 @@ namespace {
 
 constexpr int kWaitMs = 20000;
 constexpr int kPictures = 23;
+// From the folder of other formats: a RAW with its camera's preview, a HEIC
+// of tiles, a PNG whose Exif is only a text chunk (no dates to edit).
+constexpr const char* kOtherFormats[] = {"fujifilm-finepix-s5pro-raf-stripped.raf", "apple-iphone11pro-heic.HEIC",
+                                         "png-rawprofile-text-only-nikon-d70.png"};
 
 // The program's dialogs, except that a handed-over folder opens in one
 // window without asking.
@@ -186,6 +192,22 @@ void shootSingleWindow(DocumentController& controller, Screenshots::Session& ses
   sheet.reject();
 }
 
+// The three files of kOtherFormats, copied from formats, in a multi-file
+// window of their own with their thumbnails.
+void shootOtherFormats(DocumentController& controller, Screenshots::Session& session, const fs::path& formats,
+                       const fs::path& scratch) {
+  const fs::path folder = scratch / "formats";
+  fs::create_directories(folder);
+  for (const char* name : kOtherFormats) fs::copy_file(formats / name, folder / name);
+  for (DocumentWindow* w : controller.windows()) delete w;
+  controller.openFiles({folder}, true);
+  auto* window = openedWindow<MultiFileWindow>(controller, "the window of other formats");
+  if (!window) return;
+  window->resize(1000, 480);
+  waitFor([&] { return thumbnailsShown(*window); }, "the thumbnails of other formats");
+  session.shoot(QStringLiteral("multi-other-formats"), *window);
+}
+
 // A picker showing "Multiple Values" beside a text field of the same row,
 // which it should match in height.
 void shootMixedPicker(Screenshots::Session& session) {
@@ -207,8 +229,8 @@ int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   QApplication app(argc, argv);
   const QStringList args = QApplication::arguments();
-  if (args.size() != 3) {
-    std::fprintf(stderr, "usage: lumidate-screenshots SAMPLES OUTPUT_DIR\n");
+  if (args.size() != 3 && args.size() != 4) {
+    std::fprintf(stderr, "usage: lumidate-screenshots SAMPLES OUTPUT_DIR [FORMATS]\n");
     return 2;
   }
   Screenshots::useStableLook(false);
@@ -240,6 +262,8 @@ int main(int argc, char** argv) {
   shootSaveFailure(stage);
   shootCloseSheet(stage);
   shootSingleWindow(controller, session, photos / "only-original.jpg");
+  const bool otherFormats = args.size() == 4;
+  if (otherFormats) shootOtherFormats(controller, session, args[3].toStdString(), scratch.path().toStdString());
   shootMixedPicker(session);
   Screenshots::shootInspector(controller, context, session, photos / "gps-summit.jpg");
   Screenshots::shootViewer(session, settings, photos);
@@ -247,5 +271,5 @@ int main(int argc, char** argv) {
   for (DocumentWindow* w : controller.windows()) delete w;
   Screenshots::shootInJapanese(photos, session);
   std::printf("%d pictures in %s\n", session.written(), qPrintable(args[2]));
-  return session.written() == kPictures ? 0 : 1;
+  return session.written() == kPictures + (otherFormats ? 1 : 0) ? 0 : 1;
 }

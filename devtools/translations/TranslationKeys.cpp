@@ -48,6 +48,7 @@ void addIFDKeys(std::vector<Key>& keys) {
   for (std::string_view key : inspector::kJFIFKeys) add(keys, Localization::kIFDTable, key);
   for (std::string_view word : OrbJFIF::kDensityUnitWords) add(keys, Localization::kIFDTable, word);
   for (std::string_view word : Localization::keys::kIFDWords) add(keys, Localization::kIFDTable, word);
+  for (std::string_view place : Localization::keys::kExifPlaces) add(keys, Localization::kIFDTable, place);
 }
 
 void addIPTCKeys(std::vector<Key>& keys) {

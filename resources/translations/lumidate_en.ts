@@ -1649,6 +1649,50 @@
         <source>Below Sea Level</source>
         <translation>Below Sea Level</translation>
     </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Container</source>
+        <translation>Container</translation>
+    </message>
+    <message>
+        <source>APP1 segment</source>
+        <translation>APP1 segment</translation>
+    </message>
+    <message>
+        <source>embedded JPEG&apos;s APP1 segment</source>
+        <translation>embedded JPEG&apos;s APP1 segment</translation>
+    </message>
+    <message>
+        <source>Exif item</source>
+        <translation>Exif item</translation>
+    </message>
+    <message>
+        <source>CMT1 box</source>
+        <translation>CMT1 box</translation>
+    </message>
+    <message>
+        <source>CMT2 box</source>
+        <translation>CMT2 box</translation>
+    </message>
+    <message>
+        <source>eXIf chunk</source>
+        <translation>eXIf chunk</translation>
+    </message>
+    <message>
+        <source>EXIF chunk</source>
+        <translation>EXIF chunk</translation>
+    </message>
+    <message>
+        <source>TIFF structure</source>
+        <translation>TIFF structure</translation>
+    </message>
+    <message>
+        <source>embedded preview JPEG&apos;s APP1 segment</source>
+        <translation>embedded preview JPEG&apos;s APP1 segment</translation>
+    </message>
 </context>
 <context>
     <name>IPTC</name>
@@ -2822,12 +2866,28 @@
 <context>
     <name>OpenFileDialog</name>
     <message>
-        <source>Photos (*.jpg *.JPG *.jpeg *.JPEG *.tif *.TIF *.tiff *.TIFF)</source>
-        <translation>Photos (*.jpg *.JPG *.jpeg *.JPEG *.tif *.TIF *.tiff *.TIFF)</translation>
-    </message>
-    <message>
         <source>All Files (*)</source>
         <translation>All Files (*)</translation>
+    </message>
+    <message>
+        <source>Camera RAW (%1)</source>
+        <translation>Camera RAW (%1)</translation>
+    </message>
+    <message>
+        <source>HEIC/HEIF/AVIF (%1)</source>
+        <translation>HEIC/HEIF/AVIF (%1)</translation>
+    </message>
+    <message>
+        <source>PNG (%1)</source>
+        <translation>PNG (%1)</translation>
+    </message>
+    <message>
+        <source>WebP (%1)</source>
+        <translation>WebP (%1)</translation>
+    </message>
+    <message>
+        <source>Photos (%1)</source>
+        <translation>Photos (%1)</translation>
     </message>
 </context>
 <context>

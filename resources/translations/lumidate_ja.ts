@@ -1649,6 +1649,50 @@
         <source>Below Sea Level</source>
         <translation>海面より下</translation>
     </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Container</source>
+        <translation>コンテナ</translation>
+    </message>
+    <message>
+        <source>APP1 segment</source>
+        <translation>APP1 セグメント</translation>
+    </message>
+    <message>
+        <source>embedded JPEG&apos;s APP1 segment</source>
+        <translation>埋め込み JPEG の APP1 セグメント</translation>
+    </message>
+    <message>
+        <source>Exif item</source>
+        <translation>Exif アイテム</translation>
+    </message>
+    <message>
+        <source>CMT1 box</source>
+        <translation>CMT1 ボックス</translation>
+    </message>
+    <message>
+        <source>CMT2 box</source>
+        <translation>CMT2 ボックス</translation>
+    </message>
+    <message>
+        <source>eXIf chunk</source>
+        <translation>eXIf チャンク</translation>
+    </message>
+    <message>
+        <source>EXIF chunk</source>
+        <translation>EXIF チャンク</translation>
+    </message>
+    <message>
+        <source>TIFF structure</source>
+        <translation>TIFF 構造</translation>
+    </message>
+    <message>
+        <source>embedded preview JPEG&apos;s APP1 segment</source>
+        <translation>埋め込みプレビュー JPEG の APP1 セグメント</translation>
+    </message>
 </context>
 <context>
     <name>IPTC</name>
@@ -2822,12 +2866,28 @@
 <context>
     <name>OpenFileDialog</name>
     <message>
-        <source>Photos (*.jpg *.JPG *.jpeg *.JPEG *.tif *.TIF *.tiff *.TIFF)</source>
-        <translation>写真 (*.jpg *.JPG *.jpeg *.JPEG *.tif *.TIF *.tiff *.TIFF)</translation>
-    </message>
-    <message>
         <source>All Files (*)</source>
         <translation>すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Camera RAW (%1)</source>
+        <translation>カメラ RAW (%1)</translation>
+    </message>
+    <message>
+        <source>HEIC/HEIF/AVIF (%1)</source>
+        <translation>HEIC/HEIF/AVIF (%1)</translation>
+    </message>
+    <message>
+        <source>PNG (%1)</source>
+        <translation>PNG (%1)</translation>
+    </message>
+    <message>
+        <source>WebP (%1)</source>
+        <translation>WebP (%1)</translation>
+    </message>
+    <message>
+        <source>Photos (%1)</source>
+        <translation>写真 (%1)</translation>
     </message>
 </context>
 <context>

@@ -21,7 +21,7 @@ class Prompts {
     std::vector<std::filesystem::path> paths;  // files and folders, as chosen
     bool separateWindows = false;
   };
-  // The open dialog: files and folders, several at once, JPEG and TIFF
+  // The open dialog: files and folders, several at once, the photo formats
   // offered, and the one-window / separate-windows choice. None when the
   // user cancelled.
   virtual std::optional<OpenRequest> chooseFilesToOpen(QWidget* parent, bool separateWindowsPreselected) = 0;

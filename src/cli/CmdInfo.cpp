@@ -1,6 +1,6 @@
 // lumidate-cli info [--json] FILE...
 // Shows the metadata rows of each photo as the inspector lists them: the
-// JFIF fields and the TIFF, Exif, Interoperability and GPS entries with
+// container, the JFIF fields and the TIFF, Exif, Interoperability and GPS entries with
 // their titles and readable values, in display order.
 #include <QCommandLineParser>
 #include <QTextStream>
@@ -90,7 +90,8 @@ int runInfo(const QStringList& args) {
   parser.setApplicationDescription("Shows the metadata of photo files as the inspector lists it.");
   parser.addHelpOption();
   parser.addOption({"json", "Print one JSON array instead of grouped lines."});
-  parser.addPositionalArgument("FILE", "Photo files (JPEG or TIFF).", "FILE...");
+  parser.addPositionalArgument("FILE", "Photo files (JPEG, TIFF, camera RAW, HEIC/HEIF/AVIF, CR3, PNG, WebP).",
+                               "FILE...");
   const cli::Usage usage{"info", "lumidate-cli info [--json] FILE..."};
   if (const auto done = cli::parseCommandLine(parser, args, usage)) return *done;
   const QStringList positional = parser.positionalArguments();

@@ -27,6 +27,7 @@ struct Dates {
   std::optional<std::string> original, digitized, edited;
   std::optional<std::string> subSecOriginal, subSecDigitized, subSecEdited;
   bool editable = false;
+  std::string container;  // "JPEG", "DNG", "HEIC", ...; empty when not known
 };
 
 struct Outcome {
@@ -41,7 +42,7 @@ std::optional<Dates> readDates(const fs::path& path, LumError* error) {
   return Dates{f->originalDateTimeOriginalString(),       f->originalDateTimeDigitizedString(),
                f->originalDateTimeString(),               f->originalSubSecDateTimeOriginalString(),
                f->originalSubSecDateTimeDigitizedString(), f->originalSubSecDateTimeString(),
-               f->isEdit()};
+               f->isEdit(),                               f->containerName()};
 }
 
 std::vector<Outcome> openAll(const std::vector<fs::path>& paths) {
@@ -72,6 +73,7 @@ nlohmann::ordered_json jsonFor(const Outcome& o) {
   j["SubSecTimeDigitized"] = textOrNull(f.subSecDigitized);
   j["SubSecTime"] = textOrNull(f.subSecEdited);
   j["editable"] = f.editable;
+  j["container"] = textOrNull(f.container.empty() ? std::nullopt : std::optional(f.container));
   return j;
 }
 

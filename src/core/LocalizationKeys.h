@@ -21,9 +21,18 @@ inline constexpr std::string_view kBelowSeaLevel = "below sea level";
 inline constexpr std::string_view kAboveSeaLevelReference = "Above Sea Level";
 inline constexpr std::string_view kBelowSeaLevelReference = "Below Sea Level";
 
+// The inspector's first group: the photo format and where its Exif sits.
+inline constexpr std::string_view kFile = "File";
+inline constexpr std::string_view kContainer = "Container";
+
 inline constexpr std::array kIFDWords{kUnknown, kLittleEndian, kBigEndian, kPhotographicSensitivity,
                                       kAboveSeaLevel, kBelowSeaLevel, kAboveSeaLevelReference,
-                                      kBelowSeaLevelReference};
+                                      kBelowSeaLevelReference, kFile, kContainer};
+
+// The places of a file's Exif as the container scan names them.
+inline constexpr std::array<std::string_view, 9> kExifPlaces{
+    "APP1 segment", "embedded JPEG's APP1 segment", "embedded preview JPEG's APP1 segment", "Exif item", "CMT1 box",
+    "CMT2 box", "eXIf chunk", "EXIF chunk", "TIFF structure"};
 
 // Table "IPTC".
 inline constexpr std::string_view kIPTCInformationInterchangeModel = "IPTC Information Interchange Model";

@@ -12,12 +12,11 @@
 #include <utility>
 #include <variant>
 
+#include "formats/PhotoExtensions.h"
+
 namespace FileExpansion {
 
 namespace {
-
-constexpr std::array<std::string_view, 8> kExtensions = {".tiff", ".TIFF", ".tif", ".TIF",
-                                                         ".JPG",  ".jpg",  ".JPEG", ".jpeg"};
 
 bool isDigit(char c) { return c >= '0' && c <= '9'; }
 char folded(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
@@ -40,11 +39,33 @@ std::string_view digitRun(std::string_view s, std::size_t from) {
   return s.substr(from, end - from);
 }
 
+// The extension without its dot; empty when there is none.
+std::string extensionOf(const std::filesystem::path& path) {
+  const std::string dotted = path.extension().string();
+  return dotted.size() < 2 ? std::string() : dotted.substr(1);
+}
+
+// Whether extension, in any case, is the lower-case known.
+bool sameFolded(std::string_view extension, std::string_view known) {
+  return std::equal(extension.begin(), extension.end(), known.begin(), known.end(),
+                    [](char a, char b) { return folded(a) == b; });
+}
+
 }  // namespace
 
 bool hasAcceptedExtension(const std::filesystem::path& path) {
-  const std::string extension = path.extension().string();
-  return std::find(kExtensions.begin(), kExtensions.end(), extension) != kExtensions.end();
+  const std::string extension = extensionOf(path);
+  const auto& exact = PhotoExtensions::kExact;
+  if (std::find(exact.begin(), exact.end(), extension) != exact.end()) return true;
+  const auto& anyCase = PhotoExtensions::kAnyCase;
+  return std::any_of(anyCase.begin(), anyCase.end(),
+                     [&](const PhotoExtensions::AnyCase& known) { return sameFolded(extension, known.extension); });
+}
+
+bool hasVideoExtension(const std::filesystem::path& path) {
+  const std::string extension = extensionOf(path);
+  const auto& videos = PhotoExtensions::kVideos;
+  return std::any_of(videos.begin(), videos.end(), [&](std::string_view known) { return sameFolded(extension, known); });
 }
 
 std::strong_ordering naturalCompare(std::string_view a, std::string_view b) {
@@ -189,7 +210,7 @@ Expansion allPhotoPaths(const std::vector<std::filesystem::path>& paths) {
     }
     if (S_ISDIR(st.st_mode))
       walkFolder(p, out);
-    else if (hasAcceptedExtension(p))
+    else if (hasAcceptedExtension(p) || hasVideoExtension(p))
       out.take(p, std::pair{st.st_dev, st.st_ino});
   }
   std::sort(out.result.files.begin(), out.result.files.end(), naturalPathLess);

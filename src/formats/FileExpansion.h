@@ -3,8 +3,10 @@
 // to open, the way the file manager would list them.
 //
 // A folder contributes every file below it, at any depth, whose extension is
-// one of "tiff", "TIFF", "tif", "TIF", "JPG", "jpg", "JPEG", "jpeg" (compared
-// exactly); a file contributes itself under the same rule. No file is taken
+// a photo's (PhotoExtensions.h: the JPEG and TIFF ones compared exactly, the
+// RAW, HEIF, PNG and WebP ones in any case); a file contributes itself under
+// the same rule, or when it is a video (.mp4, .mov: refused with its reason
+// when opened, where a folder's videos are passed over). No file is taken
 // twice. The result is sorted by path with numbers inside names compared by
 // value ("img2" before "img10") and letters without regard to case.
 
@@ -16,6 +18,7 @@
 namespace FileExpansion {
 
 bool hasAcceptedExtension(const std::filesystem::path& path);
+bool hasVideoExtension(const std::filesystem::path& path);
 
 // Natural order of two names: runs of digits compare by value, other
 // characters case-insensitively; ties are broken by the exact bytes.

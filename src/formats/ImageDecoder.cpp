@@ -1,3 +1,6 @@
+// The header check of opening. Decoding pictures (PictureDecoding.cpp) is
+// apart: a program that only opens files does not load the decoders of the
+// other formats.
 #include "formats/ImageDecoder.h"
 
 namespace ImageDecoder {
@@ -18,16 +21,5 @@ HeaderCheck checkHeader(orb::ByteView bytes) {
   }
   return {false, 0, 0, "not a JPEG or TIFF image"};
 }
-
-std::shared_ptr<const lum::Bitmap> decodeForBox(orb::ByteView bytes, int boxWidth, int boxHeight) {
-  switch (kindOf(bytes)) {
-    case Kind::JPEG: return decodeJPEG(bytes, boxWidth, boxHeight);
-    case Kind::TIFF: return decodeTIFF(bytes);
-    case Kind::Unknown: break;
-  }
-  return nullptr;
-}
-
-std::shared_ptr<const lum::Bitmap> decodeFull(orb::ByteView bytes) { return decodeForBox(bytes, 0, 0); }
 
 }  // namespace ImageDecoder

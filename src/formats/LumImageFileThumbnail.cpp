@@ -5,11 +5,14 @@
 // Decoding a 12-megapixel image costs some 40 ms of entropy decoding even at
 // an eighth of its size; its 160 x 120 thumbnail well under a millisecond.
 // Every other file (no thumbnail, one padded to another shape or too small,
-// a TIFF) gets the main image decoded and reduced.
+// a TIFF) gets the main image decoded and reduced. A camera RAW gives its
+// own preview, read from the file piece by piece: its sensor data, most of
+// a 25 MB file, is never read (libraw asks for some 25 KB).
 #include "formats/LumImageFile.h"
 
 #include <utility>
 
+#include "formats/FileRangeReader.h"
 #include "formats/ImageDecoder.h"
 #include "tools/Resizing.h"
 
@@ -86,12 +89,25 @@ std::shared_ptr<const lum::Bitmap> fromEmbeddedThumbnail(orb::ByteView bytes) {
   return result;
 }
 
+std::shared_ptr<const lum::Bitmap> fitted(std::shared_ptr<const lum::Bitmap> bitmap) {
+  return Resizing::resizedBitmapFromBitmap(std::move(bitmap), false, LumImageFile::kThumbnailBox,
+                                           LumImageFile::kThumbnailBox);
+}
+
+// The preview of the RAW file at url whose head was read, read further only
+// while it is still the file that head came from.
+std::shared_ptr<const lum::Bitmap> rawPreview(const std::filesystem::path& url,
+                                              std::shared_ptr<const lum::FileData> head) {
+  lum::FileRangeReader file(url, std::move(head));
+  auto preview = ImageDecoder::decodeRAWPreview(file.reader(), file.fileSize(), kBox, kBox);
+  return file.failed() ? nullptr : fitted(std::move(preview));
+}
+
 }  // namespace
 
 std::shared_ptr<const lum::Bitmap> LumImageFile::thumbnailOfBytes(orb::ByteView bytes) {
   if (auto embedded = fromEmbeddedThumbnail(bytes)) return embedded;
-  return Resizing::resizedBitmapFromBitmap(ImageDecoder::decodeForBox(bytes, kBox, kBox), false, kThumbnailBox,
-                                           kThumbnailBox);
+  return fitted(ImageDecoder::decodeForBox(bytes, kBox, kBox));
 }
 
 void LumImageFile::makeThumbnail() {
@@ -103,16 +119,20 @@ std::shared_ptr<const lum::Bitmap> LumImageFile::readThumbnail(const std::filesy
   // Read now, and only while the file is still the one opened: another
   // program may have changed it since, and this thumbnail must show what the
   // dates belong to. A camera's thumbnail lies in the file's first bytes;
-  // only without one is the whole file read.
+  // without one a RAW's preview is read piece by piece, any other file whole.
   const auto read = [&](std::size_t length) {
     return stamp_ ? lum::FileData::readIfUnchanged(url, *stamp_, length) : lum::FileData::readHead(url, length);
   };
   std::shared_ptr<const lum::Bitmap> result;
   if (const auto head = read(kHeadBytes[1])) {
     result = fromEmbeddedThumbnail(head->bytes());
-    if (!result && head->holdsWholeFile()) result = thumbnailOfBytes(head->bytes());
-    if (!result && !head->holdsWholeFile())
+    if (!result && head->holdsWholeFile()) {
+      result = thumbnailOfBytes(head->bytes());
+    } else if (!result && ImageDecoder::formatOf(head->bytes()) == ImageDecoder::Format::RAW) {
+      result = rawPreview(url, head);
+    } else if (!result) {
       if (const auto whole = read(lum::FileData::kWholeFile)) result = thumbnailOfBytes(whole->bytes());
+    }
   }
   return result ? result : errorImage();
 }

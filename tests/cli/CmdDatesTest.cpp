@@ -28,7 +28,7 @@ class CmdDatesFolder : public ::testing::Test {
     lumtest::writeFile(root_ / "img9.JPG", lumtest::JpegBuilder().jfif(1, 1).build());
     lumtest::writeFile(root_ / "sub/img1.jpeg", lumtest::JpegBuilder().exif(tiff).build());
     lumtest::writeFile(root_ / "notes.txt", {'h', 'i'});
-    lumtest::writeFile(root_ / "picture.png", {0x89, 'P', 'N', 'G'});
+    lumtest::writeFile(root_ / "clip.MOV", {0, 0, 0, 16, 'f', 't', 'y', 'p', 'q', 't', ' ', ' ', 0, 0, 0, 0});
   }
   const lumtest::TempFolder folder_;
   const fs::path& root_ = folder_.path();
@@ -49,6 +49,10 @@ TEST_F(CmdDatesFolder, ListsPhotosOnceInFileManagerOrderAlignedWhenPlain) {
   for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(array[i].at("path"), (root_ / order[i]).string());
   EXPECT_EQ(array[0].at("editable"), false);
   EXPECT_EQ(array[1].at("SubSecTimeOriginal"), " 42");  // blanks kept
+  EXPECT_EQ(array[1].at("container"), "JPEG");
+  // The folder's video is passed over; named on its own, it is refused.
+  const auto video = runDates("--json " + shellQuoted(root_ / "clip.MOV"));
+  EXPECT_EQ(json::parse(video.out).at(0).at("error").at("reason"), "videos are not edited yet");
 
   fs::copy_file(root_ / "img10.jpg", root_ / "caf\u00e9-\u00e9t\u00e9.jpg");
   const auto plain = runDates(shellQuoted(root_));

@@ -4,10 +4,17 @@
 
 namespace {
 
-TEST(FileExpansion, AcceptsOnlyTheJpegAndTiffExtensions) {
+// JPEG and TIFF in their eight exact spellings, the other photo formats in
+// any case; videos and look-alikes are not taken.
+TEST(FileExpansion, AcceptedExtensions) {
   const std::pair<const char*, bool> cases[] = {
-      {"a.jpg", true}, {"a.JPEG", true}, {"a.TIF", true}, {"a.tiff", true}, {"a.Jpg", false}, {"a.png", false},
-      {"a.jpe", false}, {"jpg", false}, {"a.jpg.bak", false}, {"dir.jpg/b", false},
+      {"a.jpg", true},      {"a.JPEG", true},     {"a.TIF", true},     {"a.tiff", true},      {"a.Jpg", false},
+      {"a.Tif", false},     {"a.jpe", false},     {"jpg", false},      {"a.jpg.bak", false},  {"dir.jpg/b", false},
+      {"a.dng", true},      {"a.CR2", true},      {"a.Nef", true},     {"a.3FR", true},       {"a.rwl", true},
+      {"a.ORF", true},      {"a.rw2", true},      {"a.RaF", true},     {"a.cr3", true},       {"a.HEIC", true},
+      {"a.heif", true},     {"a.HIF", true},      {"a.avif", true},    {"a.png", true},       {"a.WEBP", true},
+      {"a.mp4", false},     {"a.MOV", false},     {"a.crw", false},    {"a.heics", false},    {"a.pn", false},
+      {"png", false},       {"a.", false},        {"a.png.txt", false}, {"a.\xC3\x89rf", false},
   };
   for (const auto& [name, accepted] : cases) EXPECT_EQ(FileExpansion::hasAcceptedExtension(name), accepted) << name;
 }

@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "ImageFileTestSupport.h"
 #include "core/CatalogueTestEntries.h"
+#include "core/Localization.h"
 #include "core/OrbTiff.h"
 #include "formats/inspector/LumInfoDataSource.h"
 
@@ -30,14 +32,14 @@ OrbTiff tiffOf(std::int8_t endian, const std::vector<OrbIFDEntry>& entries) {
   return tiff;
 }
 
-TEST(InspectorRows, JpegWithOnlyJFIFShowsOnlyTheJFIFGroup) {
+TEST(InspectorRows, JpegWithOnlyJFIFShowsItsContainerAndTheJFIFGroup) {
   const lumtest::Opened opened = lumtest::openBytes(lumtest::JpegBuilder().jfif(1, 2, 1, 300, 300).build());
   ASSERT_TRUE(opened.file) << opened.error.domain << opened.error.code;
   LumInfoDataSource source;
   source.setImageFile(opened.file.get());
   EXPECT_EQ(texts(source.IFDDataSources()),
-            (std::vector<std::string>{"# JFIF", "JFIF|JFIF Version|1.2", "JFIF|Density Unit|dpi",
-                                      "JFIF|X Density|300", "JFIF|Y Density|300"}));
+            (std::vector<std::string>{"# File", "File|Container|JPEG", "# JFIF", "JFIF|JFIF Version|1.2",
+                                      "JFIF|Density Unit|dpi", "JFIF|X Density|300", "JFIF|Y Density|300"}));
   EXPECT_TRUE(source.isHeadingRow(0));
   // Headings, other columns and rows past the last have no value.
   EXPECT_EQ(source.objectValue("Value", 0) + source.objectValue("Other", 2) + source.objectValue("Value", 99), "");
@@ -77,6 +79,22 @@ TEST(InspectorRows, GPSValuesWithTheirReferences) {
                                       "GPS|GPS Altitude|10.5 m"}));
 }
 
+// The container group leads the rows when the format is known; each part
+// of the Exif's place is a word of its own for translation.
+TEST(InspectorRows, ContainerGroup) {
+  Localization::setLookup([](std::string_view table, std::string_view key) -> std::optional<std::string> {
+    if (table == Localization::kIFDTable && key == "CMT2 box") return "Box 2";
+    return std::nullopt;
+  });
+  const std::tuple<const char*, const char*, const char*> cases[] = {
+      {"", "APP1 segment", nullptr}, {"PNG", "", "PNG"}, {"CR3", "CMT1 box, CMT2 box", "CR3, CMT1 box, Box 2"}};
+  for (const auto& [container, place, shown] : cases)
+    EXPECT_EQ(texts(LumInfoDataSource::containerRows(container, place)),
+              (shown ? std::vector<std::string>{"# File", std::string("File|Container|") + shown}
+                     : std::vector<std::string>{}));
+  Localization::setLookup({});
+}
+
 TEST(InspectorRows, FollowsTheShownFile) {
   const lumtest::Opened a = lumtest::openBytes(lumtest::JpegBuilder().jfif(1, 1).build());
   const lumtest::Opened b = lumtest::openBytes(lumtest::JpegBuilder().jfif(1, 2).build());
@@ -87,7 +105,7 @@ TEST(InspectorRows, FollowsTheShownFile) {
   EXPECT_FALSE(source.imageFileDidSave(b.file.get()));     // not the shown file
   EXPECT_TRUE(source.imageFileDidSave(a.file.get()));
   EXPECT_TRUE(source.imageFileDidChange(b.file.get()));
-  EXPECT_EQ(source.objectValue("Value", 1), "1.2");
+  EXPECT_EQ(source.objectValue("Value", 3), "1.2");
   EXPECT_TRUE(source.imageFileDidChange(nullptr));         // no file: an empty table
   EXPECT_EQ(source.numberOfRows(), 0u);
   EXPECT_FALSE(source.imageFileDidSave(nullptr));

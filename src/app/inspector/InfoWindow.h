@@ -1,8 +1,9 @@
 #pragma once
-// The metadata inspector: one window listing the JFIF fields and the TIFF,
-// Exif, Interoperability and GPS entries of the current file. It follows the
-// current file through the notification centre; Copy puts the selected rows
-// on the clipboard. Its place and size are kept in the settings.
+// The metadata inspector: one window listing the container (format and the
+// place of the Exif), the JFIF fields and the TIFF, Exif, Interoperability
+// and GPS entries of the current file. It follows the current file through
+// the notification centre; Copy puts the selected rows on the clipboard. Its
+// place and size are kept in the settings.
 
 #include <QWidget>
 

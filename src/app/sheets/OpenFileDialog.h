@@ -1,8 +1,8 @@
 #pragma once
 // The open dialog: Qt's own file dialog (the platform's cannot take files
-// and folders in one selection) showing JPEG and TIFF files, several at
-// once, folders included, with the choice of one window or separate windows
-// below it.
+// and folders in one selection) showing photo files (all of them, or one
+// family: camera RAW, HEIC/HEIF/AVIF, PNG, WebP), several at once, folders
+// included, with the choice of one window or separate windows below it.
 
 #include <QFileDialog>
 
@@ -16,6 +16,9 @@ class OpenFileDialog : public QFileDialog {
 
  public:
   OpenFileDialog(QWidget* parent, bool separateWindowsPreselected);
+
+  // "Photos (...)", one filter per family of other formats, "All Files (*)".
+  static QStringList photoNameFilters();
 
   std::vector<std::filesystem::path> chosenPaths() const { return chosen_; }
   bool separateWindows() const;

@@ -8,16 +8,20 @@
 #include "core/IFDItemID.h"
 #include "core/OrbTiff.h"
 #include "documents/LumLocalized.h"
+#include "formats/ByteViewReader.h"
 #include "formats/FileData.h"
 #include "formats/ImageDecoder.h"
 #include "formats/LumImageFile.h"
+#include "formats/containers/ContainerScan.h"
 
 namespace {
 
 constexpr std::uint16_t kModelTag = 0x0110;
 
 // Where the TIFF header of the bytes starts: 0 for a TIFF file, after the
-// Exif APP1's preamble for a JPEG; none for a JPEG without Exif.
+// Exif APP1's preamble for a JPEG, and for the other formats the start of
+// the main block the container scan finds (a HEIF's Exif item, a CR3's
+// CMT1 box, a PNG's eXIf chunk, ...); none for a file without Exif.
 std::optional<std::uint64_t> tiffHeaderLocation(orb::ByteView bytes) {
   switch (ImageDecoder::kindOf(bytes)) {
     case ImageDecoder::Kind::TIFF:
@@ -28,8 +32,11 @@ std::optional<std::uint64_t> tiffHeaderLocation(orb::ByteView bytes) {
       if (walker.pSearchJPEG(bytes, &location, bytes.size())) return location;
       return std::nullopt;
     }
-    case ImageDecoder::Kind::Unknown:
+    case ImageDecoder::Kind::Unknown: {
+      const lum::ContainerScan scan = lum::scanContainer(bytes.size(), lum::readerOver(bytes));
+      if (!scan.blocks.empty()) return scan.blocks.front().offset;
       break;
+    }
   }
   return std::nullopt;
 }

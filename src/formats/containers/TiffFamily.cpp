@@ -132,7 +132,7 @@ ContainerScan scanTiffFamily(std::uint64_t fileSize, const RangeReader& read, co
                    " bytes and ends before its first directory is complete: its image and dates are missing";
     return scan;
   }
-  scan.blocks.push_back(TiffBlock{0, fileSize, "TIFF header at 0", BlockRole::Main, std::nullopt});
+  scan.blocks.push_back(TiffBlock{0, fileSize, "TIFF structure", BlockRole::Main, std::nullopt});
   if (headerName == "RW2" && dir.previewJpeg)
     if (auto preview = locateJpegExif(fileSize, read, dir.previewJpeg->first, dir.previewJpeg->second,
                                       "embedded preview JPEG's APP1 segment")) {

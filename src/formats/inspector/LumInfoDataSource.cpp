@@ -1,6 +1,7 @@
 #include "formats/inspector/LumInfoDataSource.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "core/Localization.h"
 #include "core/LocalizationKeys.h"
@@ -53,7 +54,29 @@ void appendJFIF(std::vector<LumInfoRow>& rows, const LumImageFile::JFIFDictionar
       rows.push_back({LumInfoRowKind::JFIFKey, "JFIF", localized(key), localized(*value), std::nullopt});
 }
 
+// The place of the Exif with each of its comma-separated parts localized.
+std::string localizedPlace(std::string_view place) {
+  std::string out;
+  while (!place.empty()) {
+    const std::size_t comma = place.find(", ");
+    if (!out.empty()) out += ", ";
+    out += localized(place.substr(0, comma));
+    place = comma == std::string_view::npos ? std::string_view{} : place.substr(comma + 2);
+  }
+  return out;
+}
+
 }  // namespace
+
+std::vector<LumInfoRow> LumInfoDataSource::containerRows(std::string_view container, std::string_view exifPlace) {
+  if (container.empty()) return {};
+  using namespace Localization::keys;
+  const std::string group = localized(kFile);
+  std::string value(container);
+  if (!exifPlace.empty()) value += ", " + localizedPlace(exifPlace);
+  return {{LumInfoRowKind::Heading, group, group, {}, std::nullopt},
+          {LumInfoRowKind::Container, group, localized(kContainer), std::move(value), std::nullopt}};
+}
 
 std::vector<LumInfoRow> LumInfoDataSource::rowsFor(const OrbTiff* tiff, const LumImageFile::JFIFDictionary* jfif,
                                                    const LumInfoOriginalDates& dates) {
@@ -90,7 +113,9 @@ void LumInfoDataSource::pMakeIFDDataSources() {
                                    imageFile_->originalDateTimeString()};
   const auto& jfif = imageFile_->JFIF();
   const bool read = readsLargeStructures_ || !imageFile_->structureLiesBeyondHead() || !imageFile_->tiffPending();
-  rows_ = rowsFor(read ? imageFile_->tiff().get() : nullptr, jfif ? &*jfif : nullptr, dates);
+  rows_ = containerRows(imageFile_->containerName(), imageFile_->exifPlace());
+  std::vector<LumInfoRow> metadata = rowsFor(read ? imageFile_->tiff().get() : nullptr, jfif ? &*jfif : nullptr, dates);
+  rows_.insert(rows_.end(), std::make_move_iterator(metadata.begin()), std::make_move_iterator(metadata.end()));
 }
 
 std::string LumInfoDataSource::objectValue(std::string_view columnIdentifier, std::size_t row) const {

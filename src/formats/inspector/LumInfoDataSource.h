@@ -1,5 +1,6 @@
 #pragma once
-// The rows of the metadata inspector, without its window: the JFIF fields
+// The rows of the metadata inspector, without its window: the file's
+// container (its format and where the Exif sits in it), the JFIF fields
 // and the TIFF, Exif, Interoperability and GPS entries of one image file,
 // grouped under headings, each row with the texts of its "TagName" and
 // "Value" cells. The window (app layer) shows them and forwards the
@@ -20,7 +21,7 @@
 
 class OrbTiff;
 
-enum class LumInfoRowKind : std::uint8_t { Heading, JFIFKey, Entry };
+enum class LumInfoRowKind : std::uint8_t { Heading, Container, JFIFKey, Entry };
 
 struct LumInfoRow {
   LumInfoRowKind kind = LumInfoRowKind::Heading;
@@ -71,6 +72,10 @@ class LumInfoDataSource {
   // The rows for a TIFF structure and JFIF fields (either may be absent).
   static std::vector<LumInfoRow> rowsFor(const OrbTiff* tiff, const LumImageFile::JFIFDictionary* jfif,
                                          const LumInfoOriginalDates& dates);
+
+  // The "File" group: one "Container" row such as "HEIC, Exif item", or no
+  // rows when the container is not known.
+  static std::vector<LumInfoRow> containerRows(std::string_view container, std::string_view exifPlace);
 
   // The GPS presentation of a GPS entry's value: positions in degrees,
   // minutes and seconds with their reference letter and as signed decimal

@@ -33,19 +33,19 @@ class OpeningTest : public QObject {
   Q_OBJECT
 
  private slots:
-  // A folder opens its photos in the file manager's order, the png left
-  // out; a file that cannot be read is named in an alert once the window
-  // with the others is up.
+  // A folder opens its photos in the file manager's order, a PNG among them
+  // and the video left out; a file that cannot be read is named in an alert
+  // once the window with the others is up.
   void openFolderKeepsPhotosSortedAndNamesTheUnreadable() {
     AppFixture f;
-    for (const char* name : {"b.JPG", "a.jpg", "c.png", "sub/d.tif"}) f.photo(name);
+    for (const char* name : {"b.JPG", "a.jpg", "c.PNG", "c.mp4", "sub/d.tif"}) f.photo(name);
     doctest_support::writeBytes(f.folder / "e.jpg", {'n', 'o', 't', ' ', 'a', ' ', 'j', 'p', 'e', 'g'});
     std::size_t windowsAtAlert = 0;
     f.prompts.onAlert = [&] { windowsAtAlert = f.controller.windows().size(); };
     f.prompts.nextOpenRequest = Prompts::OpenRequest{{f.folder.path()}, false};
     QVERIFY(f.waitForOpening([&] { f.controller.openDocument(); }));
     QCOMPARE(f.controller.windows().size(), 1u);
-    const std::vector expected{f.folder / "a.jpg", f.folder / "b.JPG", f.folder / "sub/d.tif"};
+    const std::vector expected{f.folder / "a.jpg", f.folder / "b.JPG", f.folder / "c.PNG", f.folder / "sub/d.tif"};
     QVERIFY(f.multiWindowRows() == expected);
     QCOMPARE(f.prompts.alerts.size(), 1u);
     QCOMPARE(windowsAtAlert, 1u);
@@ -53,20 +53,23 @@ class OpeningTest : public QObject {
     QCOMPARE(f.prompts.alerts.front().message, QStringLiteral("\"e.jpg\" could not be opened."));
   }
 
-  // The real files of other formats open from their folder into one window
-  // showing the dates exiftool reads; the videos and the cut-off stub are
-  // named in the alert, the videos' reason given.
+  // The real files of other formats, named one by one (a folder's videos
+  // would be passed over), open into one window showing the dates exiftool
+  // reads; the videos and the cut-off stub are named in the alert, the
+  // videos' reason given.
   void otherFormatsShowTheirDatesAndNameTheRefused() {
     const fs::path source = LUMIDATE_FORMATS_TESTDATA;
     std::ifstream in(source / "expected.json");
     if (!in) QSKIP("format test files not found; conformance test skipped");
     AppFixture f;
     const nlohmann::json records = nlohmann::json::parse(in);
+    std::vector<fs::path> named;
     for (const auto& record : records) {
       const std::string name = record.at("file");
       fs::copy_file(source / name, f.folder / name);
+      named.push_back(f.folder / name);
     }
-    f.prompts.nextOpenRequest = Prompts::OpenRequest{{f.folder.path()}, false};
+    f.prompts.nextOpenRequest = Prompts::OpenRequest{named, false};
     QVERIFY(f.waitForOpening([&] { f.controller.openDocument(); }));
     QCOMPARE(f.prompts.alerts.size(), 1u);
     QCOMPARE(f.prompts.alerts.front().paths.size(), 3);

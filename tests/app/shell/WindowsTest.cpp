@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <fstream>
+
 #include "app/loading/LoadProgressWindow.h"
 #include "app/sheets/FileListAlert.h"
 #include "app/sheets/OpenFileDialog.h"
@@ -112,6 +114,37 @@ class WindowsTest : public QObject {
     std::vector<fs::path> chosen = dialog.chosenPaths();
     std::sort(chosen.begin(), chosen.end());
     QVERIFY(chosen == (std::vector<fs::path>{f.folder / "a.jpg", f.folder / "sub"}));
+  }
+
+  // "Photos" and each family take their extensions in either case; a video
+  // and an odd spelling of JPEG show only under "All Files".
+  void openDialogFiltersPhotoFamiliesInEitherCase() {
+    AppFixture f;
+    for (const char* name : {"a.CR3", "b.cr3", "c.HEIC", "d.jpg", "e.Jpg", "f.MP4"})
+      std::ofstream(f.folder.path() / name) << 'x';
+    OpenFileDialog dialog(nullptr, false);
+    auto* model = dialog.findChild<QFileSystemModel*>();
+    QSignalSpy loaded(model, &QFileSystemModel::directoryLoaded);
+    const QString folder = QString::fromStdString(f.folder.path().string());
+    dialog.setDirectory(folder);
+    dialog.show();
+    QVERIFY(loaded.count() > 0 || loaded.wait(5000));
+    const auto shown = [&] {
+      QStringList names;
+      const QModelIndex parent = model->index(folder);
+      for (int row = 0; row < model->rowCount(parent); ++row)
+        if (const QModelIndex index = model->index(row, 0, parent); model->flags(index) & Qt::ItemIsEnabled)
+          names << model->fileName(index);
+      names.sort();
+      return names.join(' ');
+    };
+    const QStringList filters = dialog.nameFilters();
+    QCOMPARE(filters.size(), 6);
+    for (const auto& [filter, names] : {std::pair{0, "a.CR3 b.cr3 c.HEIC d.jpg"}, {1, "a.CR3 b.cr3"}, {2, "c.HEIC"},
+                                        {5, "a.CR3 b.cr3 c.HEIC d.jpg e.Jpg f.MP4"}}) {
+      dialog.selectNameFilter(filters[filter]);
+      QTRY_COMPARE(shown(), QString(names));
+    }
   }
 
   void failureListAlertShowsEveryPath() {

@@ -11,6 +11,7 @@
 #include "app/support/AppFixture.h"
 #include "app/viewer/ClipView.h"
 #include "app/viewer/ImageWindow.h"
+#include "app/viewer/ViewerImage.h"
 
 using namespace doctest_support;
 namespace fs = std::filesystem;
@@ -89,6 +90,25 @@ class ImageWindowTest : public QObject {
       QCOMPARE(textShown(window), c.showInfo && *c.text);
       QCOMPARE(pictureSize(window), c.picture);
       QCOMPARE(window.windowTitle(), QString("a.jpg"));
+    }
+  }
+
+  // Other photo formats: the picture from its own decoder, the model from
+  // the container's main TIFF block (an embedded JPEG, an eXIf chunk, an
+  // EXIF chunk, an Exif item).
+  void modelOfOtherFormats() {
+    const fs::path dir = LUMIDATE_FORMATS_TESTDATA;
+    if (!fs::exists(dir / "expected.json")) QSKIP("format test files not found; skipped");
+    const struct { const char* file; QSize size; const char* model; } cases[] = {
+        {"fujifilm-finepix-s5pro-raf-stripped.raf", {160, 120}, "FinePix S5Pro  "},
+        {"png-exif-chunk-after-idat-canon-s40.png", {1, 1}, "Canon PowerShot S40"},
+        {"nikon-d1x-webp.webp", {600, 391}, "NIKON D1X"},
+        {"apple-iphone11pro-heic.HEIC", {3024, 4032}, "iPhone 11 Pro"},
+    };
+    for (const auto& c : cases) {
+      const ViewerImage image = readViewerImage(dir / c.file);
+      QCOMPARE(image.picture.size(), c.size);
+      QCOMPARE(image.model, QString(c.model));
     }
   }
 
