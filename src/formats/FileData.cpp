@@ -91,14 +91,22 @@ std::shared_ptr<const FileData> FileData::readIfUnchanged(const std::filesystem:
   return read(path, &opened, length, failure);
 }
 
-std::shared_ptr<const FileData> FileData::readRangeIfUnchanged(const std::filesystem::path& path,
-                                                               const FileStamp& opened, std::uint64_t offset,
-                                                               std::size_t length, ReadFailure* failure) {
-  return read(path, &opened, length, failure, offset);
+std::shared_ptr<const FileData> FileData::readRangeIfUnchanged(int fd, const FileStamp& opened, std::uint64_t offset,
+                                                               std::size_t length) {
+  struct stat st {};
+  if (::fstat(fd, &st) != 0 || FileStamp::ofStat(st) != opened) return nullptr;
+  auto data = std::make_shared<FileData>(Key{});
+  const std::size_t wanted =
+      offset >= opened.size ? 0 : static_cast<std::size_t>(std::min<std::uint64_t>(length, opened.size - offset));
+  if (readAt(fd, offset, wanted, &data->buffer_, &data->size_) != 0) return nullptr;
+  if (::fstat(fd, &st) != 0 || FileStamp::ofStat(st) != opened) return nullptr;
+  data->stamp_ = opened;
+  data->data_ = data->buffer_.get();
+  return data;
 }
 
 std::shared_ptr<const FileData> FileData::read(const std::filesystem::path& path, const FileStamp* opened,
-                                               std::size_t length, ReadFailure* failure, std::uint64_t offset) {
+                                               std::size_t length, ReadFailure* failure) {
   const Descriptor file{::open(path.c_str(), O_RDONLY | O_CLOEXEC)};
   struct stat st {};
   const int openError = file.fd < 0 || ::fstat(file.fd, &st) != 0 ? errno : !S_ISREG(st.st_mode) ? EINVAL : 0;
@@ -108,9 +116,8 @@ std::shared_ptr<const FileData> FileData::read(const std::filesystem::path& path
     return nullptr;
   }
   auto data = std::make_shared<FileData>(Key{});
-  const auto fileSize = static_cast<std::uint64_t>(st.st_size);
-  const std::size_t wanted = offset >= fileSize ? 0 : static_cast<std::size_t>(std::min<std::uint64_t>(length, fileSize - offset));
-  if (const int error = readAt(file.fd, offset, wanted, &data->buffer_, &data->size_)) {
+  const std::size_t wanted = std::min(length, static_cast<std::size_t>(st.st_size));
+  if (const int error = readAt(file.fd, 0, wanted, &data->buffer_, &data->size_)) {
     if (failure) *failure = failureFor(path, error);
     return nullptr;
   }

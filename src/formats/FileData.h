@@ -74,12 +74,12 @@ class FileData {
   static std::shared_ptr<const FileData> readIfUnchanged(const std::filesystem::path& path, const FileStamp& opened,
                                                          std::size_t length, ReadFailure* failure = nullptr);
 
-  // At most `length` bytes from offset of the file, only while it is still
-  // the one stamped `opened` (as readIfUnchanged). holdsWholeFile() is then
-  // meaningless: the bytes are a piece from the middle.
-  static std::shared_ptr<const FileData> readRangeIfUnchanged(const std::filesystem::path& path,
-                                                              const FileStamp& opened, std::uint64_t offset,
-                                                              std::size_t length, ReadFailure* failure = nullptr);
+  // At most `length` bytes from offset of the file open as fd, only while
+  // it is still the one stamped `opened` (checked before and after the
+  // read); nullptr otherwise. holdsWholeFile() is then meaningless: the
+  // bytes are a piece from the middle.
+  static std::shared_ptr<const FileData> readRangeIfUnchanged(int fd, const FileStamp& opened, std::uint64_t offset,
+                                                              std::size_t length);
 
   // Holds a copy of bytes already in memory.
   static std::shared_ptr<const FileData> fromBytes(std::vector<std::uint8_t> bytes,
@@ -108,7 +108,7 @@ class FileData {
 
  private:
   static std::shared_ptr<const FileData> read(const std::filesystem::path& path, const FileStamp* opened,
-                                              std::size_t length, ReadFailure* failure, std::uint64_t offset = 0);
+                                              std::size_t length, ReadFailure* failure);
 
   const std::uint8_t* data_ = nullptr;
   std::size_t size_ = 0;

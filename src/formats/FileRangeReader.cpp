@@ -1,5 +1,8 @@
 #include "formats/FileRangeReader.h"
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <algorithm>
 
 namespace lum {
@@ -19,6 +22,10 @@ FileRangeReader::FileRangeReader(std::filesystem::path path, std::shared_ptr<con
   pieces_.emplace_back(0, std::move(head));
 }
 
+FileRangeReader::~FileRangeReader() {
+  if (fd_ >= 0) ::close(fd_);
+}
+
 RangeReader FileRangeReader::reader() {
   return [this](std::uint64_t offset, std::uint64_t length) { return read(offset, length); };
 }
@@ -36,7 +43,8 @@ std::optional<std::vector<std::uint8_t>> FileRangeReader::read(std::uint64_t off
     piece = covering->second;
   } else {
     const std::uint64_t wanted = std::max(end - offset, kPieceLength);
-    piece = FileData::readRangeIfUnchanged(path_, stamp_, offset, static_cast<std::size_t>(wanted));
+    if (fd_ < 0) fd_ = ::open(path_.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd_ >= 0) piece = FileData::readRangeIfUnchanged(fd_, stamp_, offset, static_cast<std::size_t>(wanted));
     if (!piece) {
       failed_ = true;
       return std::nullopt;

@@ -21,6 +21,9 @@ class FileRangeReader {
  public:
   // head: the first bytes of the file at path, with the stamp they were read under.
   FileRangeReader(std::filesystem::path path, std::shared_ptr<const FileData> head);
+  ~FileRangeReader();
+  FileRangeReader(const FileRangeReader&) = delete;
+  FileRangeReader& operator=(const FileRangeReader&) = delete;
 
   std::uint64_t fileSize() const { return stamp_.size; }
   const FileStamp& stamp() const { return stamp_; }
@@ -37,6 +40,7 @@ class FileRangeReader {
   FileStamp stamp_;
   std::vector<std::pair<std::uint64_t, std::shared_ptr<const FileData>>> pieces_;  // offset, bytes
   bool failed_ = false;
+  int fd_ = -1;  // opened on the first read past the head, kept for the others
 };
 
 }  // namespace lum
