@@ -13,6 +13,7 @@
 
 #include "FuzzCheck.h"
 #include "core/ByteView.h"
+#include "formats/ByteViewReader.h"
 #include "formats/containers/ContainerScan.h"
 #include "formats/containers/ExifDateEntries.h"
 #include "formats/containers/PngChunks.h"
@@ -28,13 +29,7 @@ bool startsLikeTiff(orb::ByteView file, std::uint64_t offset) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const orb::ByteView file(data, size);
-  const lum::RangeReader read = [&file](std::uint64_t offset,
-                                        std::uint64_t length) -> std::optional<std::vector<std::uint8_t>> {
-    if (offset > file.size()) return std::nullopt;
-    const auto bytes = file.bytes(offset, std::min<std::uint64_t>(length, file.size() - offset));
-    if (!bytes) return std::nullopt;
-    return std::vector<std::uint8_t>(bytes->begin(), bytes->end());
-  };
+  const lum::RangeReader read = lum::readerOver(file);
   const lum::ContainerScan scan = lum::scanContainer(size, read);
   for (const lum::TiffBlock& block : scan.blocks) {
     FUZZ_CHECK(file.contains(block.offset, block.length));

@@ -9,6 +9,7 @@
 #include <set>
 
 #include "PhotoFiles.h"
+#include "formats/ByteViewReader.h"
 #include "formats/containers/PngChunks.h"
 #include "support/CliRun.h"
 #include "support/TestData.h"
@@ -64,10 +65,7 @@ const json* entryFor(const json& list, const std::string& name, const char* path
 }
 
 bool pngCrcsRight(const std::vector<std::uint8_t>& file) {
-  return lum::containers::pngCrcsAreRight(file.size(), [&file](std::uint64_t offset, std::uint64_t length) {
-    const auto from = file.begin() + static_cast<std::ptrdiff_t>(offset);
-    return std::optional(std::vector<std::uint8_t>(from, from + static_cast<std::ptrdiff_t>(length)));
-  });
+  return lum::containers::pngCrcsAreRight(file.size(), lum::readerOver(orb::ByteView(file.data(), file.size())));
 }
 
 class FormatsShift : public ::testing::Test {

@@ -14,6 +14,7 @@
 #include "core/IFDItemID.h"
 #include "core/NSDataOrbAdditions.h"
 #include "core/OrbTiff.h"
+#include "formats/ByteViewReader.h"
 #include "formats/containers/ContainerScan.h"
 #include "formats/containers/ExifDateEntries.h"
 #include "formats/containers/PngChunks.h"
@@ -29,11 +30,7 @@ Bytes slice(const Bytes& file, std::uint64_t offset, std::uint64_t length) {
   return Bytes(at(offset), at(offset + std::min<std::uint64_t>(length, file.size() - offset)));
 }
 
-lum::RangeReader readerOver(const Bytes& file) {
-  return [&file](std::uint64_t offset, std::uint64_t length) -> std::optional<Bytes> {
-    return offset > file.size() ? std::nullopt : std::optional(slice(file, offset, length));
-  };
-}
+lum::RangeReader readerOver(const Bytes& file) { return lum::readerOver(orb::ByteView(file.data(), file.size())); }
 
 lum::ContainerScan scanBytes(const Bytes& file) { return lum::scanContainer(file.size(), readerOver(file)); }
 

@@ -10,6 +10,7 @@
 #include <set>
 #include <nlohmann/json.hpp>
 
+#include "formats/ByteViewReader.h"
 #include "formats/containers/IsoBmffBoxes.h"
 #include "formats/containers/IsoBmffExif.h"
 #include "support/TestData.h"
@@ -33,7 +34,7 @@ Bytes cat(std::initializer_list<Bytes> parts) {
 Bytes box(std::string_view type, const Bytes& payload) { return cat({num(payload.size() + 8, 4), text(type), payload}); }
 Bytes fullV(std::string_view type, int version, const Bytes& payload) { return box(type, cat({num(version, 1), num(0, 3), payload})); }
 
-Result locate(const Bytes& bytes) { return locateExif(bytes.size(), readerOver(orb::ByteView(bytes))); }
+Result locate(const Bytes& bytes) { return locateExif(bytes.size(), lum::readerOver(orb::ByteView(bytes))); }
 
 const Bytes kTiff = cat({text("MM"), num(42, 2), num(8, 4), num(0, 2), num(0, 4)});
 const Bytes kFtyp = box("ftyp", cat({text("heic"), num(0, 4), text("mif1heic")}));

@@ -74,14 +74,4 @@ std::optional<Box> firstOfType(const Boxes& boxes, std::string_view type) {
   return std::nullopt;
 }
 
-RangeReader readerOver(orb::ByteView bytes) {
-  return [bytes](std::uint64_t offset, std::uint64_t length) -> std::optional<std::vector<std::uint8_t>> {
-    if (offset > bytes.size()) return std::nullopt;
-    const std::uint64_t available = std::min<std::uint64_t>(length, bytes.size() - offset);
-    const auto span = bytes.bytes(offset, available);
-    if (!span) return std::nullopt;
-    return std::vector<std::uint8_t>(span->begin(), span->end());
-  };
-}
-
 }  // namespace lum::isobmff

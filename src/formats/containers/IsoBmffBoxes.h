@@ -46,7 +46,4 @@ std::optional<Box> firstOfType(const Boxes& boxes, std::string_view type);
 std::optional<std::vector<std::uint8_t>> readExactly(const RangeReader& read, std::uint64_t offset,
                                                      std::uint64_t length);
 
-// A reader over bytes held in memory; `bytes` must outlive it.
-RangeReader readerOver(orb::ByteView bytes);
-
 }  // namespace lum::isobmff
